@@ -1,0 +1,20 @@
+#include "FormLayout.h"
+
+#include "core/Twips.h"
+
+#include <QWidget>
+
+namespace FormLayout {
+
+void place(QWidget* control, int left, int top, int width, int height)
+{
+    control->setGeometry(Twips::toPixels(left), Twips::toPixels(top), Twips::toPixels(width),
+        Twips::toPixels(height));
+}
+
+void fixSize(QWidget* window, int width, int height)
+{
+    window->setFixedSize(Twips::toPixels(width), Twips::toPixels(height));
+}
+
+} // namespace FormLayout

@@ -1,0 +1,14 @@
+#pragma once
+
+class QWidget;
+
+// Window layouts are designed in twips (15 to a logical pixel).
+namespace FormLayout {
+
+// Places a control at a position and size given in twips.
+void place(QWidget* control, int left, int top, int width, int height);
+
+// Gives a window a fixed client size given in twips.
+void fixSize(QWidget* window, int width, int height);
+
+} // namespace FormLayout

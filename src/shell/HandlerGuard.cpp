@@ -1,0 +1,33 @@
+#include "HandlerGuard.h"
+
+#include "MsgBox.h"
+
+#include "core/RunTimeError.h"
+
+#include <QString>
+
+#include <exception>
+
+namespace {
+
+void report(const std::function<void()>& onFault, const QString& message)
+{
+    if (onFault)
+        onFault();
+    MsgBox(message, 16, QStringLiteral("Floatrix"));
+}
+
+} // namespace
+
+bool RunGuarded(const std::function<void()>& handler, const std::function<void()>& onFault)
+{
+    try {
+        handler();
+        return true;
+    } catch (const RunTimeError& error) {
+        report(onFault, QString::fromStdString(error.what()));
+    } catch (const std::exception& error) {
+        report(onFault, QString::fromStdString(error.what()));
+    }
+    return false;
+}

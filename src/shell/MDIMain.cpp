@@ -1,0 +1,177 @@
+#include "MDIMain.h"
+
+#include "Forms.h"
+#include "GlobDef.h"
+#include "HandlerGuard.h"
+
+#include "about/frmIdentify.h"
+#include "core/Twips.h"
+#include "introduction/frmIntroduction.h"
+#include "macroview/frmMacroView.h"
+#include "microview/frmMicroView.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int StatusLineHeight = 255;
+}
+
+MDIMain::MDIMain()
+{
+    setObjectName("MDIMain");
+    setWindowTitle("Ludophys - The Floatrixon (Floatrix)");
+    resize(800, 600);
+
+    auto* central = new QWidget(this);
+    auto* layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_mdiArea = new QMdiArea(central);
+    m_mdiArea->setObjectName("mdiArea");
+    layout->addWidget(m_mdiArea, 1);
+    buildStatusLine(central);
+    layout->addWidget(picStatusLine);
+    setCentralWidget(central);
+    buildMenus();
+}
+
+void MDIMain::buildStatusLine(QWidget* parent)
+{
+    picStatusLine = new QWidget(parent);
+    picStatusLine->setObjectName("picStatusLine");
+    picStatusLine->setFixedHeight(Twips::toPixels(StatusLineHeight));
+    picStatusLine->setAutoFillBackground(true);
+    picStatusLine->installEventFilter(this);
+    lblStatusLine = new QLabel(picStatusLine);
+    lblStatusLine->setObjectName("lblStatusLine");
+    lblStatusLine->setGeometry(0, 0, 0, Twips::toPixels(StatusLineHeight));
+    lblStatusLine->setIndent(4);
+}
+
+QAction* MDIMain::addItem(QMenu* menu, const QString& name, int index, const QString& caption)
+{
+    QAction* item = caption == "-" ? menu->addSeparator() : menu->addAction(caption);
+    item->setObjectName(QString("%1(%2)").arg(name).arg(index));
+    return item;
+}
+
+void MDIMain::buildMenus()
+{
+    mnuContents = menuBar()->addMenu("Contents");
+    mnuContents->setObjectName("mnuContents");
+    const QStringList contents = {"Introduction", "Macroscopic View", "Microscopic View", "-", "Exit"};
+    for (int i = 0; i < int(contents.size()); ++i) {
+        mnuContentsItem[i] = addItem(mnuContents, "mnuContentsItem", i, contents[i]);
+        connect(mnuContentsItem[i], &QAction::triggered, this, [this, i] { mnuContentsItem_Click(i); });
+    }
+    mnuOptions = menuBar()->addMenu("Options");
+    mnuOptions->setObjectName("mnuOptions");
+    mnuHelp = menuBar()->addMenu("Help");
+    mnuHelp->setObjectName("mnuHelp");
+    const QStringList help = {"Contents", "Search for...", "-", "About..."};
+    for (int i = 0; i < int(help.size()); ++i) {
+        mnuHelpItem[i] = addItem(mnuHelp, "mnuHelpItem", i, help[i]);
+        connect(mnuHelpItem[i], &QAction::triggered, this, [this, i] { mnuHelpItem_Click(i); });
+    }
+}
+
+void MDIMain::mnuContentsItem_Click(int Index)
+{
+    RunGuarded([this, Index] {
+        switch (Index) {
+        case 0:
+            ShowChild(&Form<frmIntroduction>());
+            break;
+        case 1:
+            ShowChild(&Form<frmMacroView>());
+            break;
+        case 2:
+            ShowChild(&Form<frmMicroView>());
+            break;
+        case 4:
+            close();
+            break;
+        default:
+            break;
+        }
+    });
+}
+
+void MDIMain::mnuHelpItem_Click(int Index)
+{
+    RunGuarded([Index] {
+        switch (Index) {
+        case 0:
+        case 1:
+            ShowNotImplemented();
+            break;
+        case 3:
+            Form<frmIdentify>().ShowAbout();
+            break;
+        default:
+            break;
+        }
+    });
+}
+
+void MDIMain::ShowChild(QWidget* form)
+{
+    auto* frame = qobject_cast<QMdiSubWindow*>(form->parentWidget());
+    if (!frame) {
+        frame = m_mdiArea->addSubWindow(form);
+        frame->setAttribute(Qt::WA_DeleteOnClose);
+        frame->setWindowIcon(form->windowIcon());
+        frame->adjustSize();
+    }
+    frame->show();
+    frame->raise();
+    m_mdiArea->setActiveSubWindow(frame);
+}
+
+QString MDIMain::statusLine() const
+{
+    return lblStatusLine->text();
+}
+
+void MDIMain::setStatusLine(const QString& text)
+{
+    lblStatusLine->setText(text);
+}
+
+void MDIMain::picStatusLine_Resize()
+{
+    lblStatusLine->resize(picStatusLine->width(), lblStatusLine->height());
+}
+
+bool MDIMain::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == picStatusLine && event->type() == QEvent::Resize)
+        picStatusLine_Resize();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+bool MDIMain::closeChildWindows()
+{
+    m_mdiArea->closeAllSubWindows();
+    for (QMdiSubWindow* frame : m_mdiArea->subWindowList())
+        if (frame->isVisible())
+            return false;
+    return true;
+}
+
+void MDIMain::closeEvent(QCloseEvent* event)
+{
+    // The children go first, each with its own unload handling; only then is the
+    // learner asked, so No leaves an empty frame.
+    if (!closeChildWindows() || !ConfirmExit()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    EndProgram();
+}

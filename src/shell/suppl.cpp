@@ -1,0 +1,40 @@
+#include "suppl.h"
+
+#include "GlobDef.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+
+void ShowOptionsButtonHint(int16_t Index)
+{
+    switch (Index) {
+    case 0:
+        SetStatusLine(QStringLiteral("Accept parameter values and exit"));
+        break;
+    case 1:
+        SetStatusLine(QStringLiteral("Cancel changes and exit"));
+        break;
+    case 2:
+        SetStatusLine(QStringLiteral("Default values for all parameters"));
+        break;
+    default:
+        SetStatusLine(QString());
+        break;
+    }
+}
+
+void CentreForm(QWidget* Window)
+{
+    auto* frame = qobject_cast<QMdiSubWindow*>(Window->parentWidget());
+    QWidget* outer = frame ? static_cast<QWidget*>(frame) : Window;
+    if (outer->windowState() & (Qt::WindowMinimized | Qt::WindowMaximized))
+        return;
+    QSize screen;
+    if (frame && frame->mdiArea())
+        screen = frame->mdiArea()->viewport()->size();
+    else if (outer->screen())
+        screen = outer->screen()->availableGeometry().size();
+    const QSize size = outer->frameGeometry().size();
+    outer->move((screen.width() - size.width()) / 2, (screen.height() - size.height()) / 10);
+}
