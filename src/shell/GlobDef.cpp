@@ -7,6 +7,7 @@
 #include "about/frmIdentify.h"
 
 #include <QApplication>
+#include <QThread>
 
 void StartUp()
 {
@@ -42,5 +43,8 @@ void EndProgram()
         window->hide();
         window->deleteLater();
     }
-    QCoreApplication::exit(0);
+    // Only a running event loop can be ended; a caller without one (a test that
+    // drives the frame directly) just sees every window go.
+    if (QThread::currentThread()->loopLevel() > 0)
+        QCoreApplication::exit(0);
 }

@@ -157,10 +157,13 @@ bool MDIMain::eventFilter(QObject* watched, QEvent* event)
 
 bool MDIMain::closeChildWindows()
 {
-    m_mdiArea->closeAllSubWindows();
-    for (QMdiSubWindow* frame : m_mdiArea->subWindowList())
-        if (frame->isVisible())
+    // Each child runs its own unload handling and is released at once, so that
+    // nothing of it is left when the exit question comes.
+    for (QMdiSubWindow* frame : m_mdiArea->subWindowList()) {
+        if (!frame->close())
             return false;
+        delete frame;
+    }
     return true;
 }
 

@@ -1,0 +1,220 @@
+#include "ModalAnswerer.h"
+#include "WindowChecks.h"
+
+#include "core/RunTimeError.h"
+#include "introduction/frmIntroduction.h"
+#include "microview/frmMicroView.h"
+#include "shell/Forms.h"
+#include "shell/GlobDef.h"
+#include "shell/HandlerGuard.h"
+#include "shell/MDIMain.h"
+#include "shell/suppl.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QtTest>
+
+namespace {
+
+QAction* menuItem(const QString& name)
+{
+    return Form<MDIMain>().findChild<QAction*>(name);
+}
+
+QString statusText()
+{
+    return Form<MDIMain>().findChild<QLabel*>("lblStatusLine")->text();
+}
+
+} // namespace
+
+class MainFrameTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void menusInOrder();
+    void helpItemsSayNotImplemented();
+    void aboutIsModal();
+    void contentsItemsOpenEachViewOnce();
+    void exitAnsweredNoKeepsAnEmptyFrame();
+    void exitAnsweredYesEndsTheProgram();
+    void statusLineSpansTheFrameAndKeepsTheLastHint();
+    void faultInAHandlerIsShownAndTheProgramGoesOn();
+    void centreFormLeavesAMaximisedWindowAlone();
+};
+
+void MainFrameTest::init()
+{
+    ShowMainWindow();
+    QVERIFY(QTest::qWaitForWindowExposed(&Form<MDIMain>()));
+}
+
+void MainFrameTest::cleanup()
+{
+    QCOMPARE(closeLeftoverWindows(), 1); // the main frame each test opened
+    QVERIFY(!IsLoaded<MDIMain>());
+}
+
+void MainFrameTest::menusInOrder()
+{
+    MDIMain& frame = Form<MDIMain>();
+    QCOMPARE(frame.windowTitle(), QString("Ludophys - The Floatrixon (Floatrix)"));
+    QStringList menus;
+    for (QAction* action : frame.menuBar()->actions())
+        menus << action->text();
+    QCOMPARE(menus, QStringList({"Contents", "Options", "Help"}));
+    QVERIFY(frame.findChild<QMenu*>("mnuOptions")->actions().isEmpty());
+
+    QStringList contents;
+    for (QAction* action : frame.findChild<QMenu*>("mnuContents")->actions())
+        contents << (action->isSeparator() ? "-" : action->text()) + "@" + action->objectName();
+    QCOMPARE(contents,
+        QStringList({"Introduction@mnuContentsItem(0)", "Macroscopic View@mnuContentsItem(1)",
+            "Microscopic View@mnuContentsItem(2)", "-@mnuContentsItem(3)", "Exit@mnuContentsItem(4)"}));
+    QStringList help;
+    for (QAction* action : frame.findChild<QMenu*>("mnuHelp")->actions())
+        help << (action->isSeparator() ? "-" : action->text());
+    QCOMPARE(help, QStringList({"Contents", "Search for...", "-", "About..."}));
+}
+
+void MainFrameTest::helpItemsSayNotImplemented()
+{
+    for (const char* name : {"mnuHelpItem(0)", "mnuHelpItem(1)"}) {
+        ModalAnswerer answer(QMessageBox::Ok);
+        menuItem(name)->trigger();
+        QCOMPARE(answer.count(), 1);
+        QCOMPARE(answer.title(), QString("Floatrix"));
+        QCOMPARE(answer.text(), QString("Sorry, feature not yet implemented"));
+        QCOMPARE(answer.icon(), QMessageBox::Critical);
+    }
+    QVERIFY(Form<MDIMain>().isVisible());
+}
+
+void MainFrameTest::aboutIsModal()
+{
+    QString shown;
+    ModalAnswerer close([&](QWidget* modal) {
+        shown = modal->objectName();
+        modal->close();
+    });
+    menuItem("mnuHelpItem(3)")->trigger();
+    QCOMPARE(shown, QString("frmIdentify"));
+}
+
+void MainFrameTest::contentsItemsOpenEachViewOnce()
+{
+    MDIMain& frame = Form<MDIMain>();
+    menuItem("mnuContentsItem(2)")->trigger();
+    frmMicroView* view = &Form<frmMicroView>();
+    menuItem("mnuContentsItem(0)")->trigger();
+    QCOMPARE(frame.mdiArea()->activeSubWindow()->widget(), &Form<frmIntroduction>());
+
+    // Choosing it again only brings the same window forward.
+    menuItem("mnuContentsItem(2)")->trigger();
+    QCOMPARE(&Form<frmMicroView>(), view);
+    QCOMPARE(frame.mdiArea()->activeSubWindow()->widget(), view);
+    QCOMPARE(frame.mdiArea()->subWindowList().size(), 2);
+
+    menuItem("mnuContentsItem(1)")->trigger();
+    QCOMPARE(frame.mdiArea()->subWindowList().size(), 3);
+    menuItem("mnuContentsItem(3)")->trigger(); // the separator does nothing
+    QCOMPARE(frame.mdiArea()->subWindowList().size(), 3);
+}
+
+void MainFrameTest::exitAnsweredNoKeepsAnEmptyFrame()
+{
+    menuItem("mnuContentsItem(2)")->trigger();
+    menuItem("mnuContentsItem(0)")->trigger();
+    {
+        ModalAnswerer answer(QMessageBox::No);
+        menuItem("mnuContentsItem(4)")->trigger();
+        QCOMPARE(answer.count(), 1);
+        QCOMPARE(answer.text(), QString("Are you sure you want to exit ?"));
+        QCOMPARE(answer.title(), QString("Floatrix"));
+        QCOMPARE(answer.icon(), QMessageBox::Question);
+    }
+    // The children were gone before the question came.
+    QVERIFY(!IsLoaded<frmMicroView>());
+    QVERIFY(!IsLoaded<frmIntroduction>());
+    QVERIFY(Form<MDIMain>().isVisible());
+
+    // The close box asks the same; afterwards a fresh view opens.
+    ModalAnswerer again(QMessageBox::No);
+    Form<MDIMain>().close();
+    QCOMPARE(again.count(), 1);
+    menuItem("mnuContentsItem(2)")->trigger();
+    QVERIFY(IsLoaded<frmMicroView>());
+}
+
+void MainFrameTest::exitAnsweredYesEndsTheProgram()
+{
+    menuItem("mnuContentsItem(1)")->trigger();
+    ModalAnswerer answer(QMessageBox::Yes);
+    menuItem("mnuContentsItem(4)")->trigger();
+    QCOMPARE(answer.count(), 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!IsLoaded<MDIMain>());
+    ShowMainWindow(); // so that cleanup finds the one frame it expects
+}
+
+void MainFrameTest::statusLineSpansTheFrameAndKeepsTheLastHint()
+{
+    MDIMain& frame = Form<MDIMain>();
+    auto* label = frame.findChild<QLabel*>("lblStatusLine");
+    auto* line = frame.findChild<QWidget*>("picStatusLine");
+    QCOMPARE(statusText(), QString());
+    QCOMPARE(line->height(), 17);
+    frame.resize(900, 500);
+    QTRY_COMPARE(label->width(), line->width());
+    QCOMPARE(line->width(), frame.centralWidget()->width());
+    frame.resize(640, 480);
+    QTRY_COMPARE(label->width(), line->width());
+
+    ShowOptionsButtonHint(1);
+    QCOMPARE(statusText(), QString("Cancel changes and exit"));
+    menuItem("mnuContentsItem(2)")->trigger();
+    QCOMPARE(statusText(), QString("Cancel changes and exit"));
+    ShowOptionsButtonHint(3);
+    QCOMPARE(statusText(), QString());
+}
+
+void MainFrameTest::faultInAHandlerIsShownAndTheProgramGoesOn()
+{
+    bool stopped = false;
+    ModalAnswerer answer(QMessageBox::Ok);
+    const bool completed = RunGuarded([] { throw RunTimeError::overflow(); }, [&] { stopped = true; });
+    QVERIFY(!completed);
+    QVERIFY(stopped);
+    QCOMPARE(answer.count(), 1);
+    QCOMPARE(answer.title(), QString("Floatrix"));
+    QCOMPARE(answer.text(), QString("Overflow"));
+    QCOMPARE(answer.icon(), QMessageBox::Critical);
+    QVERIFY(RunGuarded([] {}));
+    QVERIFY(Form<MDIMain>().isVisible());
+}
+
+void MainFrameTest::centreFormLeavesAMaximisedWindowAlone()
+{
+    menuItem("mnuContentsItem(0)")->trigger();
+    QWidget* frame = Form<frmIntroduction>().parentWidget();
+    frame->move(3, 4);
+    CentreForm(&Form<frmIntroduction>());
+    const QSize area = Form<MDIMain>().mdiArea()->viewport()->size();
+    QCOMPARE(frame->x(), (area.width() - frame->width()) / 2);
+    QCOMPARE(frame->y(), (area.height() - frame->height()) / 10);
+
+    frame->showMaximized();
+    const QRect maximised = frame->geometry();
+    CentreForm(&Form<frmIntroduction>());
+    QCOMPARE(frame->geometry(), maximised);
+}
+
+QTEST_MAIN(MainFrameTest)
+#include "tst_mainframe.moc"
