@@ -1,0 +1,71 @@
+#pragma once
+
+#include "model/CollisionArray.h"
+
+#include <cstdint>
+
+class Canvas;
+class CollisionSetup;
+class CollisionState;
+
+// The collision experiment's picture: the mapping from the experiment's metres to
+// the picture, the ground strip of the side view, the two bodies and their velocity
+// and force arrows. Everything is drawn in exclusive-or mode, so drawing the bodies
+// a second time at the same places erases them. Page 1 is the view from above;
+// any other page is the side view, where the bodies rest on the ground.
+class CollisionScene
+{
+public:
+    // Length in picture units of the arrow of the largest velocity or force, and
+    // of each barb.
+    static constexpr float ArrowLength = 250.0f;
+    static constexpr float BarbLength = 50.0f;
+
+    // The ground of the side view from the picture's present scale and background:
+    // a dark red strip along the bottom twentieth of the picture.
+    void InitialiseGround(const Canvas& canvas);
+
+    // The world-to-picture mapping that shows both bodies' whole paths from their
+    // start to their ends at 2 t_c, and the bodies' places at the start.
+    void ComputeViewport(const Canvas& canvas, const CollisionSetup& setup,
+                         const CollisionState& state, int16_t page);
+
+    // World x and y to picture coordinates.
+    float ScreenX(float x) const;
+    float ScreenY(float y) const;
+
+    // Clears the picture, draws the ground on the side view, then the bodies.
+    void DrawCollisionScene(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
+                            int16_t page);
+
+    // Both bodies at their picture places with their arrows; a second call at the
+    // same places and time erases them.
+    void DrawBodies(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
+                    int16_t page);
+
+    // The velocity and force arrows at the state's SimulationTime, as switched on.
+    void DrawVectors(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
+                     int16_t page);
+
+    // The arrows of one quantity for both bodies: x components, and on page 1 the
+    // y components; the longest possible arrow belongs to the value of scale.
+    void DrawVectorPair(Canvas& canvas, int16_t page, float vx1, float vx2, float vy1, float vy2,
+                        float scale, float colour);
+
+    // One arrow from a body's centre along x (component 1) or y (component 2),
+    // ArrowLength x value / scale long. Nothing for a value or a scale of 0.
+    void DrawArrow(Canvas& canvas, int16_t component, float cx, float cy, float radius, float scale,
+                   float value, float colour);
+
+    float ScaleXFactor = 1;  // picture x = factor x world x + offset
+    float ScaleXOffset = 0;
+    float ScaleYFactor = -1; // negative: the world's y grows upwards
+    float ScaleYOffset = 0;
+    CollisionArray<float, 2> BodyScreenX, BodyScreenY; // centres in picture coordinates
+    CollisionArray<float, 2> BodyScreenRadius;         // radii in picture units along x
+    float GroundColor = 0;
+    float GroundLeft = 0;
+    float GroundRight = 0;
+    float GroundTop = 0;
+    float GroundBottom = 0;
+};

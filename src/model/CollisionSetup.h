@@ -1,0 +1,58 @@
+#pragma once
+
+#include "CollisionArray.h"
+
+#include <cstdint>
+
+// The parameters of the two-body collision experiment, one record for the whole
+// program (global()). The parameters dialog writes it on "Ok", the defaults routine
+// restores it, and the experiment reads it before and during a run. Arrays are
+// indexed by body, 1 and 2. Colours are whole RGB numbers kept in floats, already
+// combined by exclusive-or with the background of the picture they are drawn on.
+class CollisionSetup
+{
+public:
+    // The force models of the contact.
+    static constexpr int16_t LinearModel = 0;        // "Linear Model": an instant exchange
+    static constexpr int16_t ContinuousVelocity = 1; // "u=f(t), continuous": constant force
+    static constexpr int16_t ContinuousForce = 2;    // "u=f(t), F=f(t), continuous": triangular force
+
+    // A record holding the defaults against a white background, current colours
+    // included, so that a fresh record describes a valid experiment.
+    CollisionSetup();
+
+    // The program's one record, alive from start-up to exit.
+    static CollisionSetup& global();
+
+    // Writes every default parameter: masses, radii, positions, velocities,
+    // switches, force model and the default colours made against the given
+    // background. The current colours are left as they are.
+    void resetDefaults(int32_t background);
+
+    // Makes the current colours the default ones.
+    void useDefaultColours();
+
+    CollisionArray<int16_t, 2> Mass;   // kg
+    CollisionArray<float, 2> Radius;   // m
+    CollisionArray<float, 2> X;        // initial centre, m
+    CollisionArray<float, 2> Y;
+    CollisionArray<float, 2> Ux;       // initial velocity, m/sec
+    CollisionArray<float, 2> Uy;
+
+    CollisionArray<float, 2> BodyColor;
+    float VelocityColor = 0;
+    float ForceColor = 0;
+    CollisionArray<float, 2> DefaultBodyColor;
+    float DefaultVelocityColor = 0;
+    float DefaultForceColor = 0;
+
+    int16_t ShowVelocities = 1;
+    int16_t ShowForces = 1;
+    int16_t GraphDistance = 1;
+    int16_t GraphVelocity = 1;
+    int16_t GraphForce = 1;
+    int16_t ProportionalGraphs = 0;
+    int16_t ForceModel = LinearModel;
+    // The introduction page (1 view from above, 2 side view) handed to the dialog.
+    int16_t Page = 1;
+};
