@@ -208,10 +208,11 @@ void Particle::CalculateVy()
 {
     if (m_OmegaY != 0) {
         const double root = std::sqrt(std::fabs(m_Yo - (m_Ycoord - m_YCenter)));
+        float s = 0;
         do {
-            const float s = signOfRandomHalf();
-            m_Vy = Numeric::toFloat(s * m_OmegaY * root);
-        } while (m_Vy == 0 && root != 0);
+            s = signOfRandomHalf();
+        } while (s == 0 && root != 0);
+        m_Vy = Numeric::toFloat(s * m_OmegaY * root);
         return;
     }
     const float r1 = SharedRandom::next();
@@ -223,10 +224,11 @@ void Particle::CalculateVx()
 {
     if (m_OmegaX != 0) {
         const double root = std::sqrt(std::fabs(m_Xo - (m_Xcoord - m_XCenter)));
+        float s = 0;
         do {
-            const float s = signOfRandomHalf();
-            m_Vx = Numeric::toFloat(s * m_OmegaX * root);
-        } while (m_Vx == 0 && root != 0);
+            s = signOfRandomHalf();
+        } while (s == 0 && root != 0);
+        m_Vx = Numeric::toFloat(s * m_OmegaX * root);
         return;
     }
     const float r1 = SharedRandom::next();
