@@ -86,7 +86,7 @@ public:
     CollisionArray<float, 2> ContactX, ContactY;  // last position computed inside the contact
 
 private:
-    void computeExchange(int16_t page);
+    void computeExchange();
     void computeContactLaws();
     int16_t checkCode(int16_t page, float dx, float dy, float dux, float duy, bool contactKnown) const;
     float position(int16_t component, int16_t body, float t);
