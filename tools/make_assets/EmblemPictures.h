@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+
+// The program's own pictures: its icon and the tall banner of the title panel in
+// the splash and About box.
+class EmblemPictures
+{
+public:
+    // The program icon: the balloon on a night-blue tile, size x size pixels.
+    static QImage icon(int size);
+
+    // The banner beside the title texts: the balloon rising over the roofs at dusk,
+    // 103 x 189 pixels.
+    static QImage banner();
+};
