@@ -1,8 +1,471 @@
 #include "frmIntroduction.h"
 
+#include "RunControl.h"
+#include "frmCollisionOptions.h"
+
+#include "canvas/CanvasWidget.h"
+#include "core/EntryFilter.h"
+#include "core/Numeric.h"
+#include "introduction/OptionsWidgets.h"
+#include "microview/frmLGOptions.h"
+#include "model/CollisionSetup.h"
+#include "shell/Defaults.h"
+#include "shell/FormLayout.h"
+#include "shell/Forms.h"
+#include "shell/GlobDef.h"
+#include "shell/HandlerGuard.h"
+#include "shell/MsgBox.h"
+#include "shell/StatusHints.h"
+#include "shell/suppl.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+
+using namespace OptionsWidgets;
+
+namespace {
+
+constexpr int ClientWidth = 8145;
+constexpr int ClientHeight = 5400;
+constexpr int PictureWidth = 4575;
+constexpr int PictureHeight = 4935;
+
+// The typed unit and page: digits only, no minus sign, no decimal point.
+constexpr int16_t UnitPageFlags = 5;
+
+const QString ClosingHint = QStringLiteral("The Floatrixon - A modern Greek game");
+
+} // namespace
+
 frmIntroduction::frmIntroduction()
 {
     setObjectName("frmIntroduction");
-    setWindowTitle("Introduction");
-    resize(480, 320);
+    setWindowTitle(QStringLiteral("Introduction"));
+    FormLayout::fixSize(this, ClientWidth, ClientHeight);
+    createControls();
+    installHints();
+    GoToFirstPage();
+    RestoreAllDefaults(PictureBackColor());
+    m_experiment->InitialiseCollision();
+}
+
+frmIntroduction::~frmIntroduction() = default;
+
+QPushButton* frmIntroduction::createButton(int index, const QString& caption, int left, int top, int width,
+    int height)
+{
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(indexedName("cmdCommand", index));
+    FormLayout::place(button, left, top, width, height);
+    connect(button, &QPushButton::clicked, this, [this, index] { RunGuarded([this, index] { cmdCommand_Click(index); }); });
+    cmdCommand[index] = button;
+    return button;
+}
+
+void frmIntroduction::createControls()
+{
+    fraDraw = new QGroupBox(this);
+    fraDraw->setObjectName("fraDraw");
+    FormLayout::place(fraDraw, 120, 0, 4815, 5295);
+    picIntroduction = new CanvasWidget(fraDraw);
+    picIntroduction->setObjectName("picIntroduction");
+    FormLayout::place(picIntroduction, 120, 240, PictureWidth, PictureHeight);
+    // The picture is drawn in its own twips whatever the screen's pixel density,
+    // with every figure combined by exclusive-or and filled solid.
+    ImageCanvas& canvas = picIntroduction->canvas();
+    canvas.resize(picIntroduction->width(), picIntroduction->height());
+    canvas.setScale(0, 0, PictureWidth, PictureHeight);
+    canvas.setDrawMode(Canvas::XorPen);
+    canvas.setFillStyle(Canvas::Solid);
+    picIntroduction->setPaintHandler([this] { RunGuarded([this] { picIntroduction_Paint(); }); });
+    picIntroduction->setMouseUpHandler([this](int16_t button, int16_t shift, float x, float y) {
+        RunGuarded([&] { picIntroduction_MouseUp(button, shift, x, y); });
+    });
+    m_experiment = std::make_unique<ExperimentView>(canvas);
+    m_liquid = std::make_unique<LiquidPage>(canvas);
+
+    txtIntro = new QPlainTextEdit(this);
+    txtIntro->setObjectName("txtIntro");
+    txtIntro->setReadOnly(true);
+    txtIntro->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    FormLayout::place(txtIntro, 5040, 120, 3015, 2535);
+
+    createNavigation();
+    createRunControls();
+}
+
+void frmIntroduction::createNavigation()
+{
+    createButton(1, QStringLiteral("<<"), 5160, 2760, 495, 255);
+    createButton(2, QStringLiteral("<"), 5880, 2760, 495, 255);
+    createButton(3, QStringLiteral(">"), 6720, 2760, 495, 255);
+    createButton(4, QStringLiteral(">>"), 7440, 2760, 495, 255);
+
+    lblUnit = new QLabel(QStringLiteral("Unit:"), this);
+    lblUnit->setObjectName("lblUnit");
+    FormLayout::place(lblUnit, 5040, 3120, 855, 285);
+    txtUnit = new QLineEdit(this);
+    txtUnit->setObjectName("txtUnit");
+    txtUnit->setMaxLength(2);
+    FormLayout::place(txtUnit, 6000, 3120, 375, 285);
+    lblPage = new QLabel(QStringLiteral("Page:"), this);
+    lblPage->setObjectName("lblPage");
+    FormLayout::place(lblPage, 6720, 3120, 735, 285);
+    txtPage = new QLineEdit(this);
+    txtPage->setObjectName("txtPage");
+    txtPage->setMaxLength(2);
+    FormLayout::place(txtPage, 7560, 3120, 375, 285);
+    connect(txtUnit, &QLineEdit::textEdited, this, [this] { RunGuarded([this] { txtUnit_Change(); }); });
+    connect(txtPage, &QLineEdit::textEdited, this, [this] { RunGuarded([this] { txtPage_Change(); }); });
+
+    createButton(6, QStringLiteral("Go To"), 5040, 3480, 1455, 375);
+}
+
+void frmIntroduction::createRunControls()
+{
+    createButton(5, QStringLiteral("Simulation"), 6600, 3480, 1455, 375);
+    createButton(8, QStringLiteral("Pause"), 5040, 3960, 1455, 375)->setEnabled(false);
+    createButton(9, QStringLiteral("Step"), 6600, 3960, 1455, 375)->setEnabled(false);
+    createButton(7, QStringLiteral("Options"), 6600, 4440, 1455, 375);
+    createButton(0, QStringLiteral("Exit"), 6600, 4920, 1455, 375);
+
+    Label1 = new QLabel(QStringLiteral("Delay"), this);
+    Label1->setObjectName("Label1");
+    Label1->setAlignment(Qt::AlignCenter);
+    FormLayout::place(Label1, 5160, 4800, 1215, 255);
+    HScrSimulationDelay = new QScrollBar(Qt::Horizontal, this);
+    HScrSimulationDelay->setObjectName("HScrSimulationDelay");
+    HScrSimulationDelay->setRange(1, 5);
+    HScrSimulationDelay->setPageStep(1);
+    HScrSimulationDelay->setValue(1);
+    FormLayout::place(HScrSimulationDelay, 5160, 5055, 1215, 240);
+
+    m_run = new RunControl(cmdCommand, HScrSimulationDelay, this);
+    m_run->setStartHandler([this] { StartSimulation(); });
+    m_run->setTickHandler([this] { TickPage(); });
+}
+
+void frmIntroduction::installHints()
+{
+    StatusHints::install(this, QStringLiteral("Introduction"));
+    StatusHints::install(txtIntro, QStringLiteral("Explanation"));
+    StatusHints::install(txtIntro->viewport(), QStringLiteral("Explanation"));
+    StatusHints::install(txtUnit, QStringLiteral("select unit"));
+    StatusHints::install(txtPage, QStringLiteral("Select page"));
+    StatusHints::install(lblUnit, QStringLiteral("Select Unit"));
+    onClick(lblPage, [] { SetStatusLine(QStringLiteral("Select Page")); });
+    StatusHints::install(picIntroduction, QStringLiteral("Visualisation"));
+    const std::array<std::pair<int, const char*>, 7> hints = {{
+        {0, "Exit introduction"},
+        {1, "Go to previous unit"},
+        {2, "Go to previous page"},
+        {3, "Go to next page"},
+        {4, "Go to next unit"},
+        {6, "Go to Unit and/or Page"},
+        {7, "Define collision parameters"},
+    }};
+    for (const auto& [index, hint] : hints)
+        StatusHints::install(cmdCommand[index], QString::fromLatin1(hint));
+}
+
+int32_t frmIntroduction::PictureBackColor() const
+{
+    return picIntroduction->canvas().BackColor();
+}
+
+bool frmIntroduction::onCollisionPage() const
+{
+    return IntroductionBook::IsCollisionPage(m_CurrentUnit, m_CurrentPage);
+}
+
+bool frmIntroduction::onLiquidPage() const
+{
+    return IntroductionBook::IsLiquidPage(m_CurrentUnit, m_CurrentPage);
+}
+
+void frmIntroduction::cmdCommand_Click(int Index)
+{
+    switch (Index) {
+    case 0:
+        Unload<frmIntroduction>();
+        break;
+    case 1:
+    case 2:
+    case 3:
+    case 4:
+        Navigate(Index);
+        break;
+    case 6:
+        GoTo();
+        break;
+    case 7:
+        ShowOptions();
+        break;
+    default:
+        m_run->cmdCommand_Click(Index);
+        break;
+    }
+}
+
+bool frmIntroduction::NextPosition(int Index, int16_t& unit, int16_t& page) const
+{
+    unit = m_CurrentUnit;
+    page = m_CurrentPage;
+    switch (Index) {
+    case 1:
+        if (unit <= 1)
+            return false;
+        --unit;
+        page = 1;
+        return true;
+    case 2:
+        if (page > 1) {
+            --page;
+            return true;
+        }
+        if (unit <= 1)
+            return false;
+        --unit;
+        page = m_book.PagesInUnit(unit);
+        return true;
+    case 3:
+        if (page < m_book.PagesInUnit(unit)) {
+            ++page;
+            return true;
+        }
+        if (unit >= IntroductionBook::UnitCount)
+            return false;
+        ++unit;
+        page = 1;
+        return true;
+    case 4:
+        if (unit >= IntroductionBook::UnitCount)
+            return false;
+        ++unit;
+        page = 1;
+        return true;
+    default:
+        return false;
+    }
+}
+
+void frmIntroduction::Navigate(int Index)
+{
+    int16_t unit = 0;
+    int16_t page = 0;
+    if (!NextPosition(Index, unit, page))
+        return;
+    // Only "<" within the same unit leaves the unit box alone.
+    MoveTo(unit, page, Index != 2 || unit != m_CurrentUnit);
+}
+
+void frmIntroduction::MoveTo(int16_t unit, int16_t page, bool writeUnit)
+{
+    m_CurrentUnit = unit;
+    m_CurrentPage = page;
+    if (writeUnit)
+        writeUnitText(unit);
+    writePageText(page);
+    // Every page starts from the default parameters of both experiments.
+    RestoreAllDefaults(PictureBackColor());
+    GoTo();
+}
+
+void frmIntroduction::writeUnitText(int16_t unit)
+{
+    txtUnit->setText(QString::number(unit));
+    txtUnit_Change();
+}
+
+void frmIntroduction::writePageText(int16_t page)
+{
+    txtPage->setText(QString::number(page));
+    txtPage_Change();
+}
+
+bool frmIntroduction::typedNumberValid(const QLineEdit* box, int16_t max) const
+{
+    // The book has no unit or page 0.
+    return IsValidNumber(UnitPageFlags, box->text(), max) && LeadingNumber(box->text()) >= 1;
+}
+
+void frmIntroduction::txtUnit_Change()
+{
+    if (!typedNumberValid(txtUnit, IntroductionBook::UnitCount)) {
+        showValidity(txtUnit, false);
+        cmdCommand[6]->setEnabled(false);
+        return;
+    }
+    showValidity(txtUnit, true);
+    m_CurrentUnit = Numeric::toInt16(LeadingNumber(txtUnit->text()));
+    if (typedNumberValid(txtPage, m_book.PagesInUnit(m_CurrentUnit)))
+        cmdCommand[6]->setEnabled(true);
+}
+
+void frmIntroduction::txtPage_Change()
+{
+    if (!typedNumberValid(txtPage, m_book.PagesInUnit(m_CurrentUnit))) {
+        showValidity(txtPage, false);
+        cmdCommand[6]->setEnabled(false);
+        return;
+    }
+    showValidity(txtPage, true);
+    m_CurrentPage = Numeric::toInt16(LeadingNumber(txtPage->text()));
+    if (typedNumberValid(txtUnit, IntroductionBook::UnitCount))
+        cmdCommand[6]->setEnabled(true);
+}
+
+void frmIntroduction::GoToFirstPage()
+{
+    m_run->setRunCompleted(false);
+    writeUnitText(1);
+    writePageText(1);
+    GoTo();
+}
+
+void frmIntroduction::GoTo()
+{
+    m_PageReady = false;
+    picIntroduction->canvas().setPicture(QImage());
+    m_liquid->Leave();
+    m_PageReady = true;
+    // Only a page with an experiment offers a run: elsewhere a run could never end.
+    cmdCommand[5]->setEnabled(onCollisionPage() || onLiquidPage());
+    m_run->setRunCompleted(false);
+    ShowPage();
+}
+
+void frmIntroduction::ShowPage()
+{
+    txtIntro->setPlainText(m_book.PageTitle(m_CurrentUnit, m_CurrentPage));
+    picIntroduction->canvas().Cls();
+    if (onLiquidPage()) {
+        fraDraw->setTitle(QString());
+        m_liquid->PrepareLiquidPage(m_CurrentPage);
+    } else if (onCollisionPage()) {
+        ShowCollisionPage();
+    }
+}
+
+void frmIntroduction::ShowCollisionPage()
+{
+    fraDraw->setTitle(IntroductionBook::FrameCaption(m_CurrentUnit, m_CurrentPage));
+    txtIntro->setPlainText(m_book.PageText(m_CurrentUnit, m_CurrentPage));
+    m_experiment->SetUpPage(m_CurrentPage);
+    CheckCollision();
+}
+
+void frmIntroduction::CheckCollision()
+{
+    const int16_t code = m_experiment->CheckCollision();
+    cmdCommand[5]->setEnabled(false);
+    cmdCommand[7]->setFocus();
+    if (code == CollisionState::CodeReady) {
+        cmdCommand[5]->setEnabled(true);
+        cmdCommand[5]->setFocus();
+        return;
+    }
+    MsgBox(ExperimentView::CheckBoxText(code), 16, QString::fromLatin1(CollisionState::CheckTitle));
+}
+
+void frmIntroduction::StartSimulation()
+{
+    if (onCollisionPage()) {
+        m_experiment->StartCollisionRun();
+        m_run->StartTimer();
+    } else if (onLiquidPage()) {
+        m_run->StartLiquidRun();
+    }
+}
+
+void frmIntroduction::TickPage()
+{
+    if (onCollisionPage()) {
+        if (m_experiment->Tick())
+            m_run->StopSimulation();
+    } else if (onLiquidPage()) {
+        m_liquid->Tick();
+    }
+}
+
+void frmIntroduction::ShowOptions()
+{
+    CollisionSetup::global().Page = m_CurrentPage;
+    if (onCollisionPage()) {
+        Form<frmCollisionOptions>().exec();
+        Unload<frmCollisionOptions>();
+    } else if (onLiquidPage()) {
+        Form<frmLGOptions>().exec();
+        Unload<frmLGOptions>();
+    } else {
+        return;
+    }
+    GoTo();
+    if (onCollisionPage())
+        m_experiment->SetUpPage(m_CurrentPage);
+}
+
+void frmIntroduction::picIntroduction_Paint()
+{
+    if (!m_PageReady)
+        return;
+    if (onCollisionPage())
+        m_experiment->Paint(m_run->RunCompleted());
+    else if (onLiquidPage() && m_liquid->Page() == m_CurrentPage)
+        m_liquid->DrawLiquidPage();
+}
+
+void frmIntroduction::picIntroduction_MouseUp(int16_t Button, int16_t, float, float Y)
+{
+    if (onCollisionPage())
+        m_experiment->MouseUp(Button, Y, m_run->RunCompleted());
+    else if (onLiquidPage())
+        m_liquid->RemovePartition();
+}
+
+void frmIntroduction::Form_Resize()
+{
+    auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (frame && frame->isMinimized())
+        SetStatusLine(ClosingHint);
+    else
+        CentreForm(this);
+}
+
+void frmIntroduction::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    RunGuarded([this] { Form_Resize(); });
+}
+
+void frmIntroduction::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // The child-window frame that holds the form is minimised and restored as a
+    // whole; its state changes reach the form through this filter.
+    QWidget* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (frame && frame != m_watchedFrame) {
+        frame->installEventFilter(this);
+        m_watchedFrame = frame;
+    }
+}
+
+bool frmIntroduction::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_watchedFrame && (event->type() == QEvent::WindowStateChange || event->type() == QEvent::Resize))
+        RunGuarded([this] { Form_Resize(); });
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmIntroduction::closeEvent(QCloseEvent* event)
+{
+    m_run->Timer1().stop();
+    SetStatusLine(ClosingHint);
+    event->accept();
 }

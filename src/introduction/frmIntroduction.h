@@ -1,12 +1,112 @@
 #pragma once
 
+#include "ExperimentView.h"
+#include "IntroductionBook.h"
+#include "LiquidPage.h"
+
 #include <QWidget>
 
-// The "Introduction" child window of the main frame.
+#include <array>
+#include <cstdint>
+#include <memory>
+
+class CanvasWidget;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QScrollBar;
+class RunControl;
+
+// "Introduction": the book of 5 units and 21 pages, read page by page with the
+// arrow buttons or by typed unit and page numbers and "Go To". Unit 3 pages 1 and 2
+// carry the collision experiment, unit 2 pages 6 and 8 a vessel of liquid; both run
+// under the run control and set their parameters in a modal dialog ("Options").
 class frmIntroduction : public QWidget
 {
     Q_OBJECT
 
 public:
+    // Loads the window: the book, its first page, the default parameters of both
+    // experiments and the collision experiment's first set-up.
     frmIntroduction();
+    ~frmIntroduction() override;
+
+    // The handlers of the controls.
+    void cmdCommand_Click(int Index);
+    void txtUnit_Change();
+    void txtPage_Change();
+    void picIntroduction_Paint();
+    void picIntroduction_MouseUp(int16_t Button, int16_t Shift, float X, float Y);
+
+    // The background colour of the picture, against which the experiment's colours
+    // are made.
+    int32_t PictureBackColor() const;
+
+    // The page shown (or about to be shown, as typed).
+    int16_t CurrentUnit() const { return m_CurrentUnit; }
+    int16_t CurrentPage() const { return m_CurrentPage; }
+    // False only while the page picture is being replaced.
+    bool PageReady() const { return m_PageReady; }
+
+    // The parts behind the window, for the views that look into it.
+    const IntroductionBook& Book() const { return m_book; }
+    ExperimentView& Experiment() { return *m_experiment; }
+    LiquidPage& Liquid() { return *m_liquid; }
+    RunControl& Run() { return *m_run; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void createControls();
+    void createNavigation();
+    void createRunControls();
+    void installHints();
+    QPushButton* createButton(int index, const QString& caption, int left, int top, int width, int height);
+
+    void GoToFirstPage();
+    void GoTo();
+    void ShowPage();
+    void ShowCollisionPage();
+    void CheckCollision();
+    void StartSimulation();
+    void TickPage();
+    void ShowOptions();
+    void Form_Resize();
+
+    void Navigate(int Index);
+    bool NextPosition(int Index, int16_t& unit, int16_t& page) const;
+    void MoveTo(int16_t unit, int16_t page, bool writeUnit);
+    void writeUnitText(int16_t unit);
+    void writePageText(int16_t page);
+    bool typedNumberValid(const QLineEdit* box, int16_t max) const;
+
+    bool onCollisionPage() const;
+    bool onLiquidPage() const;
+
+    QGroupBox* fraDraw = nullptr;
+    CanvasWidget* picIntroduction = nullptr;
+    QPlainTextEdit* txtIntro = nullptr;
+    std::array<QPushButton*, 10> cmdCommand{};
+    QLabel* lblUnit = nullptr;
+    QLineEdit* txtUnit = nullptr;
+    QLabel* lblPage = nullptr;
+    QLineEdit* txtPage = nullptr;
+    QLabel* Label1 = nullptr;
+    QScrollBar* HScrSimulationDelay = nullptr;
+
+    IntroductionBook m_book;
+    std::unique_ptr<ExperimentView> m_experiment;
+    std::unique_ptr<LiquidPage> m_liquid;
+    RunControl* m_run = nullptr;
+    QWidget* m_watchedFrame = nullptr;
+
+    int16_t m_CurrentUnit = 1;
+    int16_t m_CurrentPage = 1;
+    bool m_PageReady = true;
 };

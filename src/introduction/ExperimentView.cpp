@@ -1,0 +1,141 @@
+#include "ExperimentView.h"
+
+#include "canvas/Canvas.h"
+#include "model/CollisionSetup.h"
+
+namespace {
+
+CollisionSetup& setup()
+{
+    return CollisionSetup::global();
+}
+
+} // namespace
+
+ExperimentView::ExperimentView(Canvas& canvas) : m_canvas(canvas), m_state(CollisionSetup::global())
+{
+}
+
+void ExperimentView::InitialiseCollision()
+{
+    CollisionSetup& parameters = setup();
+    parameters.useDefaultColours();
+    parameters.Mass[1] = 10;
+    parameters.Mass[2] = 15;
+    parameters.Ux[1] = 100;
+    parameters.Ux[2] = 50;
+    parameters.X[1] = 0;
+    parameters.X[2] = 100;
+    m_scene.InitialiseGround(m_canvas);
+}
+
+void ExperimentView::SetUpPage(int16_t page)
+{
+    m_page = page;
+    m_graphs.BuildGraphList(m_canvas, setup(), page);
+}
+
+int16_t ExperimentView::CheckCollision()
+{
+    const int16_t code = m_state.ComputeCollision(m_page);
+    m_scene.ComputeViewport(m_canvas, setup(), m_state, m_page);
+    m_scene.DrawCollisionScene(m_canvas, setup(), m_state, m_page);
+    return code;
+}
+
+QString ExperimentView::CheckBoxText(int16_t code)
+{
+    std::string text = CollisionState::CheckBoxText(code);
+    if (text.empty())
+        text = CollisionState::CheckBoxText(CollisionState::CodeNoCollision);
+    return QString::fromStdString(text);
+}
+
+float ExperimentView::RunEnd() const
+{
+    return 2 * m_state.ContactStart;
+}
+
+void ExperimentView::StartCollisionRun()
+{
+    m_graphs.GraphZoomed = 0;
+    m_graphs.ContactZoom = false;
+    m_state.SimulationTime = 0;
+    for (int16_t g = 1; g <= m_graphs.GraphCount; ++g)
+        m_graphs.GraphRange(setup(), m_state, g, m_graphs.GraphQuantity[g], 0, RunEnd());
+    m_graphs.StartGraphClocks(m_state);
+    m_graphs.DrawGraphFrames(m_canvas, m_graphs.GraphCount);
+}
+
+bool ExperimentView::Tick()
+{
+    m_scene.DrawBodies(m_canvas, setup(), m_state, m_page);
+    m_state.SimulationTime += m_state.TimeStep;
+    for (int16_t body = 1; body <= 2; ++body) {
+        const float x = m_state.BodyState(CollisionState::ComponentX, CollisionState::Position, body,
+            m_state.SimulationTime);
+        m_scene.BodyScreenX[body] = m_scene.ScreenX(x);
+        // The side view keeps the bodies resting on the ground.
+        if (m_page == 1) {
+            const float y = m_state.BodyState(CollisionState::ComponentY, CollisionState::Position, body,
+                m_state.SimulationTime);
+            m_scene.BodyScreenY[body] = m_scene.ScreenY(y);
+        }
+    }
+    m_scene.DrawBodies(m_canvas, setup(), m_state, m_page);
+    m_graphs.DrawGraphStep(m_canvas, setup(), m_state);
+    if (RunEnd() <= m_state.SimulationTime) {
+        m_state.SimulationTime = 0;
+        return true;
+    }
+    return false;
+}
+
+void ExperimentView::Paint(bool runCompleted)
+{
+    m_scene.DrawCollisionScene(m_canvas, setup(), m_state, m_page);
+    if (m_page == 2 && runCompleted)
+        m_graphs.RedrawGraphs(m_canvas, setup(), m_state);
+}
+
+void ExperimentView::MouseUp(int16_t button, float y, bool runCompleted)
+{
+    if (button == LeftButton) {
+        leftClick(y, runCompleted);
+        return;
+    }
+    if (button != RightButton || m_graphs.GraphZoomed != 1)
+        return;
+    if (m_graphs.ContactZoom) {
+        // Back from the contact to the whole run of the same graph.
+        m_graphs.GraphZoomed = 0;
+        leftClick(0, runCompleted);
+        return;
+    }
+    m_graphs.ContactZoom = true;
+    const float contact = m_state.ContactStart;
+    const float step = m_state.TimeStep;
+    m_graphs.ZoomGraph(m_canvas, setup(), m_state, contact - 12 * step / 2, contact + 36 * step / 2);
+}
+
+void ExperimentView::leftClick(float y, bool runCompleted)
+{
+    if (m_graphs.GraphZoomed == 1) {
+        m_graphs.GraphZoomed = 0;
+        m_graphs.ContactZoom = false;
+        Paint(runCompleted);
+        return;
+    }
+    if (m_page != 2 || !runCompleted || m_graphs.GraphCount <= 1)
+        return;
+    if (m_graphs.ContactZoom) {
+        m_graphs.ContactZoom = false;
+    } else {
+        const int16_t g = m_graphs.PanelAt(y);
+        if (g == 0)
+            return;
+        m_graphs.SelectedGraph = g;
+    }
+    m_graphs.GraphZoomed = 1;
+    m_graphs.ZoomGraph(m_canvas, setup(), m_state, 0, RunEnd());
+}

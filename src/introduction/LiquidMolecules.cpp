@@ -1,0 +1,126 @@
+#include "LiquidMolecules.h"
+
+#include "canvas/Canvas.h"
+#include "core/RunTimeError.h"
+#include "core/SharedRandom.h"
+
+#include <cmath>
+
+namespace {
+
+// The largest speed of a molecule in either direction, twips per step.
+constexpr float MaxSpeed = 30;
+// The molecules measure no wall of their own.
+constexpr int16_t NoWall = 3;
+
+float randomSpeed()
+{
+    return (2 * SharedRandom::next() - 1) * MaxSpeed;
+}
+
+} // namespace
+
+void LiquidMolecules::Lay(Canvas& canvas, const Layout& layout)
+{
+    Clear();
+    const int32_t count = int32_t(layout.rows) * layout.columns;
+    if (count > MaxMolecules)
+        throw RunTimeError::subscriptOutOfRange();
+    m_liquidLevel = layout.liquidLevel;
+    m_radius = layout.radius;
+    m_GroupLeft = {0, VesselLeft, VesselMiddle};
+    m_GroupRight = {0, VesselMiddle, VesselRight};
+    const float depth = VesselBottom - layout.liquidLevel;
+    for (int16_t i = 1; i <= layout.rows; ++i) {
+        for (int16_t j = 1; j <= layout.columns; ++j) {
+            auto molecule = std::make_unique<Particle>();
+            const float x = VesselLeft + (i - 0.5f) * (VesselRight - VesselLeft) / layout.rows;
+            const int16_t group = x < VesselMiddle ? 1 : 2;
+            molecule->setCanvas(&canvas);
+            molecule->setWall(NoWall);
+            molecule->setColor(layout.groupColor[group - 1]);
+            molecule->setRadius(layout.radius);
+            molecule->setFillStyle(0);
+            molecule->setXcoord(x);
+            molecule->setYcoord(layout.liquidLevel + (j - 0.5f) * depth / layout.columns);
+            molecule->setVx(randomSpeed());
+            molecule->setVy(randomSpeed());
+            m_molecules.push_back(std::move(molecule));
+            m_group.push_back(group);
+        }
+    }
+}
+
+void LiquidMolecules::Clear()
+{
+    m_molecules.clear();
+    m_group.clear();
+}
+
+void LiquidMolecules::RemovePartition()
+{
+    m_GroupLeft = {0, VesselLeft, VesselLeft};
+    m_GroupRight = {0, VesselRight, VesselRight};
+}
+
+const Particle& LiquidMolecules::Molecule(int16_t k) const
+{
+    if (k < 1 || k > MoleculeCount())
+        throw RunTimeError::subscriptOutOfRange();
+    return *m_molecules[size_t(k - 1)];
+}
+
+void LiquidMolecules::Step()
+{
+    float impulseX = 0;
+    float impulseY = 0;
+    for (size_t k = 0; k < m_molecules.size(); ++k) {
+        // No external force, no perturbation and no measured wall: Move is a
+        // straight step, and the vessel's walls are handled here.
+        m_molecules[k]->Move(1, 0, 0, false, 1, 1, impulseX, impulseY);
+        reboundFromWalls(*m_molecules[k], m_group[k]);
+    }
+    for (size_t a = 0; a < m_molecules.size(); ++a)
+        for (size_t b = a + 1; b < m_molecules.size(); ++b)
+            collide(*m_molecules[a], *m_molecules[b]);
+}
+
+void LiquidMolecules::reboundFromWalls(Particle& molecule, int16_t group) const
+{
+    const float x = molecule.Xcoord();
+    const float y = molecule.Ycoord();
+    if ((x - m_radius < m_GroupLeft[group] && molecule.Vx() < 0)
+        || (x + m_radius > m_GroupRight[group] && molecule.Vx() > 0))
+        molecule.setVx(-molecule.Vx());
+    if ((y - m_radius < m_liquidLevel && molecule.Vy() < 0) || (y + m_radius > VesselBottom && molecule.Vy() > 0))
+        molecule.setVy(-molecule.Vy());
+}
+
+void LiquidMolecules::collide(Particle& a, Particle& b) const
+{
+    // Two molecules touch when their centres are at most two radii apart; equal
+    // masses exchange the parts of their velocities along the line of centres, once,
+    // while they approach each other.
+    const double dx = double(b.Xcoord()) - a.Xcoord();
+    const double dy = double(b.Ycoord()) - a.Ycoord();
+    const double distanceSquared = dx * dx + dy * dy;
+    const double reach = 2.0 * m_radius;
+    if (distanceSquared > reach * reach || distanceSquared == 0)
+        return;
+    const double dvx = double(b.Vx()) - a.Vx();
+    const double dvy = double(b.Vy()) - a.Vy();
+    const double approach = dvx * dx + dvy * dy;
+    if (approach >= 0)
+        return;
+    const double exchange = approach / distanceSquared;
+    a.setVx(float(a.Vx() + exchange * dx));
+    a.setVy(float(a.Vy() + exchange * dy));
+    b.setVx(float(b.Vx() - exchange * dx));
+    b.setVy(float(b.Vy() - exchange * dy));
+}
+
+void LiquidMolecules::Draw()
+{
+    for (auto& molecule : m_molecules)
+        molecule->DrawYourself(false);
+}

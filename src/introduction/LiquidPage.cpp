@@ -1,0 +1,87 @@
+#include "LiquidPage.h"
+
+#include "canvas/ImageCanvas.h"
+#include "canvas/Rgb.h"
+#include "core/Numeric.h"
+#include "shell/FluidParameters.h"
+#include "shell/GlobDef.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QImage>
+
+namespace {
+
+constexpr int32_t White = Rgb::RGB(255, 255, 255);
+
+} // namespace
+
+LiquidPage::LiquidPage(ImageCanvas& canvas) : m_canvas(canvas)
+{
+}
+
+void LiquidPage::PrepareLiquidPage(int16_t page)
+{
+    m_page = page;
+    m_LiquidLevel = page == 6 ? 2600 : 2100;
+
+    const FluidParameters& fluid = FluidParameters::shared();
+    LiquidMolecules::Layout layout;
+    layout.rows = fluid.FluidRows;
+    layout.columns = fluid.FluidColumns;
+    layout.liquidLevel = m_LiquidLevel;
+    layout.radius = page == 6 ? 150 : 50;
+    layout.groupColor[0] = Numeric::toInt32(fluid.FluidGroupColor[1]);
+    layout.groupColor[1] = Numeric::toInt32(fluid.FluidGroupColor[2]);
+    m_molecules.Lay(m_canvas, layout);
+
+    loadPicture(QString::fromLatin1(page == 6 ? Page6Picture : Page8Picture));
+    m_PartitionVisible = true;
+    DrawLiquidPage();
+}
+
+void LiquidPage::loadPicture(const QString& name)
+{
+    const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(name);
+    QImage picture(path);
+    if (picture.isNull()) {
+        m_canvas.setPicture(QImage());
+        SetStatusLine(QStringLiteral("The picture %1 is missing: the vessel is shown without it").arg(name));
+        return;
+    }
+    // The picture is drawn in device pixels: on a high-density screen it is
+    // enlarged to keep its place under the picture's twips.
+    const double ratio = m_canvas.DeviceWidth() * 15.0 / m_canvas.ScaleWidth();
+    if (ratio > 1.01)
+        picture = picture.scaled(picture.size() * ratio);
+    m_canvas.setPicture(picture);
+}
+
+void LiquidPage::DrawLiquidPage()
+{
+    m_canvas.Cls();
+    if (m_PartitionVisible)
+        m_canvas.Line(LiquidMolecules::VesselMiddle, m_LiquidLevel, LiquidMolecules::VesselMiddle,
+            LiquidMolecules::VesselBottom, White);
+    if (m_page == 6 && FluidParameters::shared().LiquidSurface3D)
+        m_canvas.Line(LiquidMolecules::VesselLeft, m_LiquidLevel, LiquidMolecules::VesselRight, m_LiquidLevel, White);
+    m_molecules.Draw();
+}
+
+void LiquidPage::Tick()
+{
+    m_molecules.Step();
+    DrawLiquidPage();
+}
+
+void LiquidPage::RemovePartition()
+{
+    m_PartitionVisible = false;
+    m_molecules.RemovePartition();
+}
+
+void LiquidPage::Leave()
+{
+    m_molecules.Clear();
+    m_page = 0;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "LiquidMolecules.h"
+
+#include <QString>
+
+#include <cstdint>
+
+class ImageCanvas;
+
+// A liquid page of the introduction (unit 2, pages 6 and 8): the vessel picture as
+// the background, the partition in the vessel's middle until a click removes it,
+// the liquid's surface on page 6, and the molecules that a liquid run moves.
+class LiquidPage
+{
+public:
+    // The page's background pictures, looked up in the program's folder.
+    static constexpr const char* Page6Picture = "pot_t2.bmp";
+    static constexpr const char* Page8Picture = "pot_t1.bmp";
+
+    explicit LiquidPage(ImageCanvas& canvas);
+
+    // Sets the page up (surface level, molecules, background picture, partition)
+    // and draws it. A missing picture leaves the page without a background and
+    // says so in the status line.
+    void PrepareLiquidPage(int16_t page);
+
+    // Draws the page again: background, partition, surface and molecules.
+    void DrawLiquidPage();
+
+    // One step of a liquid run: the molecules move and the page is drawn again.
+    void Tick();
+
+    // Takes the partition out; the picture shows it at the next redraw.
+    void RemovePartition();
+
+    // Releases the molecules when the book leaves the page.
+    void Leave();
+
+    // The page shown, the y of the liquid's surface, and whether the partition is in.
+    int16_t Page() const { return m_page; }
+    int16_t LiquidLevel() const { return m_LiquidLevel; }
+    bool PartitionVisible() const { return m_PartitionVisible; }
+    const LiquidMolecules& Molecules() const { return m_molecules; }
+
+private:
+    void loadPicture(const QString& name);
+
+    ImageCanvas& m_canvas;
+    LiquidMolecules m_molecules;
+    int16_t m_page = 0;
+    int16_t m_LiquidLevel = 0;
+    bool m_PartitionVisible = false;
+};

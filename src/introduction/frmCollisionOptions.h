@@ -1,0 +1,114 @@
+#pragma once
+
+#include "BodyParameterHints.h"
+#include "ColorChooser.h"
+
+#include <QDialog>
+
+#include <array>
+#include <cstdint>
+#include <set>
+#include <utility>
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QWidget;
+
+// "Παράμετροι Ελαστικής Κρούσης": the modal dialog in which the learner sets the two
+// bodies of the collision experiment (mass, radius, initial position and velocity),
+// the vectors and graphs drawn, the model of the contact force and the colours. It
+// edits a working copy in its controls; the experiment's parameters change only on
+// "Ok", which is enabled only while all twelve typed numbers are valid.
+class frmCollisionOptions : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // Loads the parameters into the controls and arranges the dialog for the page
+    // (1 view from above, 2 side view) the introduction handed over.
+    frmCollisionOptions();
+
+    // The handlers of the controls.
+    void cmdCommand_Click(int Index);
+    void cmdColorSelection_Click(int Index);
+    // The check of a typed number of one kind (BodyParameterHints::Kind) and body
+    // index 0 or 1: txtm_Change, txtR_Change and their sister handlers.
+    void Field_Change(int kind, int Index);
+    void txtm_Change(int Index) { Field_Change(BodyParameterHints::Mass, Index); }
+    void txtR_Change(int Index) { Field_Change(BodyParameterHints::Radius, Index); }
+    void txtx_Change(int Index) { Field_Change(BodyParameterHints::PositionX, Index); }
+    void txty_Change(int Index) { Field_Change(BodyParameterHints::PositionY, Index); }
+    void txtux_Change(int Index) { Field_Change(BodyParameterHints::VelocityX, Index); }
+    void txtuy_Change(int Index) { Field_Change(BodyParameterHints::VelocityY, Index); }
+
+public slots:
+    // Escape and the close box cancel, as "Cancel" does.
+    void reject() override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    using FieldArray = std::array<QLineEdit*, 2>;
+
+    void createBodyFrame();
+    void createBodyRow(int kind);
+    void createGraphFrame();
+    void createVectorFrame();
+    void createModelFrame();
+    void createColorFrame();
+    void createCommandButtons();
+    QGroupBox* createFrame(const char* name, const QString& caption, int left, int top, int width, int height);
+    QCheckBox* createCheck(QWidget* parent, const char* name, const QString& caption, int left, int top, int width);
+
+    void ShowCurrentValues();
+    void AcceptValues();
+    void ShowDefaultValues();
+    void ArrangeForPage();
+    void MarkFieldValidity(int kind, int Index, bool Valid);
+    void writeField(int kind, int Index, const QString& text);
+    void Form_Resize();
+
+    QLineEdit*& field(int kind, int Index);
+    static int32_t pictureBackground();
+
+    QGroupBox* fraCollisionData = nullptr;
+    std::array<QLabel*, 2> lblTitle{};
+    FieldArray txtm{}, txtR{}, txtx{}, txty{}, txtux{}, txtuy{};
+    std::array<QLabel*, 2> lblm{}, lblR{}, lblx{}, lbly{}, lblux{}, lbluy{};
+    std::array<QLabel*, 12> lblUnits{};
+
+    QGroupBox* fraGraphs = nullptr;
+    QCheckBox* chkGraphS = nullptr;
+    QCheckBox* chkGraphU = nullptr;
+    QCheckBox* chkGraphF = nullptr;
+    QCheckBox* chkProportional = nullptr;
+    QWidget* picCollType1 = nullptr;
+    QWidget* picCollType2 = nullptr;
+    std::array<QRadioButton*, 2> OptType1{};
+    std::array<QRadioButton*, 2> OptType2{};
+
+    QGroupBox* fraVisualisationOption = nullptr;
+    QCheckBox* chkShowVelocities = nullptr;
+    QCheckBox* chkShowForces = nullptr;
+    QCheckBox* chkShowMomenta = nullptr;
+
+    QGroupBox* fraModel = nullptr;
+    std::array<QRadioButton*, 3> optModel{};
+
+    QGroupBox* fraColors = nullptr;
+    std::array<QLabel*, 4> lblColorSelection{};
+    std::array<QPushButton*, 4> cmdColorSelection{};
+    std::array<QLabel*, 4> lblCurrentColor{};
+
+    std::array<QPushButton*, 3> cmdCommand{};
+    ColorChooser CMDcolors;
+
+    // The typed numbers whose last check failed, as (kind, body index).
+    std::set<std::pair<int, int>> InvalidFields;
+};

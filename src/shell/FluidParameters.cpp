@@ -1,0 +1,7 @@
+#include "FluidParameters.h"
+
+FluidParameters& FluidParameters::shared()
+{
+    static FluidParameters values;
+    return values;
+}
