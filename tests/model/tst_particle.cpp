@@ -74,6 +74,9 @@ private slots:
         // Springs act only once mass is written again.
         m.setKapaX(8);
         QCOMPARE(m.OmegaX(), 0.0f);
+        m.setVx(500);
+        m.setVxmax(40);
+        QCOMPARE(m.Vx(), 500.0f);
         m.setMass(2);
         QCOMPARE(m.OmegaX(), 2.0f);
         m.setXo(10);
