@@ -1,11 +1,134 @@
 #include "CollisionScene.h"
 
-void CollisionScene::InitialiseGround(const Canvas&) {}
-void CollisionScene::ComputeViewport(const Canvas&, const CollisionSetup&, const CollisionState&, int16_t) {}
-float CollisionScene::ScreenX(float x) const { return ScaleXFactor * x + ScaleXOffset; }
-float CollisionScene::ScreenY(float y) const { return ScaleYFactor * y + ScaleYOffset; }
-void CollisionScene::DrawCollisionScene(Canvas&, const CollisionSetup&, CollisionState&, int16_t) {}
-void CollisionScene::DrawBodies(Canvas&, const CollisionSetup&, CollisionState&, int16_t) {}
-void CollisionScene::DrawVectors(Canvas&, const CollisionSetup&, CollisionState&, int16_t) {}
-void CollisionScene::DrawVectorPair(Canvas&, int16_t, float, float, float, float, float, float) {}
-void CollisionScene::DrawArrow(Canvas&, int16_t, float, float, float, float, float, float) {}
+#include "canvas/Canvas.h"
+#include "canvas/Rgb.h"
+#include "core/Geometry.h"
+#include "core/Numeric.h"
+#include "model/CollisionState.h"
+
+namespace {
+
+constexpr int16_t AboveView = 1;
+constexpr int16_t SideView = 2;
+
+int32_t colourOf(float stored)
+{
+    return Numeric::toInt32(stored);
+}
+
+} // namespace
+
+void CollisionScene::InitialiseGround(const Canvas& canvas)
+{
+    GroundColor = float(Rgb::RGB(192, 0, 0) ^ canvas.BackColor());
+    GroundLeft = canvas.ScaleLeft();
+    GroundRight = canvas.ScaleLeft() + canvas.ScaleWidth();
+    GroundTop = (canvas.ScaleTop() + canvas.ScaleHeight()) * 0.95f;
+    GroundBottom = canvas.ScaleTop() + canvas.ScaleHeight();
+}
+
+void CollisionScene::ComputeViewport(const Canvas& canvas, const CollisionSetup& setup,
+                                     const CollisionState& state, int16_t page)
+{
+    const auto& R = setup.Radius;
+    // The whole paths, from the start to the ends at 2 t_c, fill the picture.
+    const float xmin = SmallerOf(SmallerOf(setup.X[1] - R[1], setup.X[2] - R[2]),
+                                 SmallerOf(state.EndX[1] - R[1], state.EndX[2] - R[2]));
+    const float xmax = LargerOf(LargerOf(setup.X[1] + R[1], setup.X[2] + R[2]),
+                                LargerOf(state.EndX[1] + R[1], state.EndX[2] + R[2]));
+    const float ymin = SmallerOf(SmallerOf(setup.Y[1] - R[1], setup.Y[2] - R[2]),
+                                 SmallerOf(state.EndY[1] - R[1], state.EndY[2] - R[2]));
+    const float ymax = LargerOf(LargerOf(setup.Y[1] + R[1], setup.Y[2] + R[2]),
+                                LargerOf(state.EndY[1] + R[1], state.EndY[2] + R[2]));
+
+    ScaleXFactor = static_cast<float>(Numeric::divide(canvas.ScaleWidth(), double(xmax) - xmin));
+    ScaleXOffset = canvas.ScaleLeft() - ScaleXFactor * xmin;
+    ScaleYFactor = static_cast<float>(Numeric::divide(canvas.ScaleHeight(), double(ymin) - ymax));
+    ScaleYOffset = canvas.ScaleTop() - ScaleYFactor * ymax;
+
+    for (int16_t i = 1; i <= 2; ++i) {
+        BodyScreenX[i] = ScreenX(setup.X[i]);
+        BodyScreenRadius[i] = ScreenX(setup.X[i] + R[i]) - BodyScreenX[i];
+        // The side view's bodies rest on the ground.
+        BodyScreenY[i] = page == SideView ? GroundTop - BodyScreenRadius[i] : ScreenY(setup.Y[i]);
+    }
+}
+
+float CollisionScene::ScreenX(float x) const
+{
+    return ScaleXFactor * x + ScaleXOffset;
+}
+
+float CollisionScene::ScreenY(float y) const
+{
+    return ScaleYFactor * y + ScaleYOffset;
+}
+
+void CollisionScene::DrawCollisionScene(Canvas& canvas, const CollisionSetup& setup,
+                                        CollisionState& state, int16_t page)
+{
+    canvas.Cls();
+    if (page == SideView) {
+        canvas.setFillColor(colourOf(GroundColor));
+        canvas.Box(GroundLeft, GroundTop, GroundRight, GroundBottom);
+    }
+    DrawBodies(canvas, setup, state, page);
+}
+
+void CollisionScene::DrawBodies(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
+                                int16_t page)
+{
+    for (int16_t i = 1; i <= 2; ++i) {
+        canvas.setFillColor(colourOf(setup.BodyColor[i]));
+        canvas.Circle(BodyScreenX[i], BodyScreenY[i], BodyScreenRadius[i], canvas.ForeColor());
+    }
+    canvas.setFillColor(Rgb::RGB(0, 0, 0));
+    DrawVectors(canvas, setup, state, page);
+}
+
+void CollisionScene::DrawVectors(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
+                                 int16_t page)
+{
+    const float t = state.SimulationTime;
+    const auto pair = [&](int16_t quantity, float scale, float colour) {
+        DrawVectorPair(canvas, page, state.BodyState(1, quantity, 1, t), state.BodyState(1, quantity, 2, t),
+                       state.BodyState(2, quantity, 1, t), state.BodyState(2, quantity, 2, t), scale, colour);
+    };
+    if (setup.ShowVelocities == 1)
+        pair(CollisionState::Velocity, state.MaxVelocity, setup.VelocityColor);
+    if (setup.ShowForces == 1)
+        pair(CollisionState::Force, state.MaxForce, setup.ForceColor);
+}
+
+void CollisionScene::DrawVectorPair(Canvas& canvas, int16_t page, float vx1, float vx2, float vy1,
+                                    float vy2, float scale, float colour)
+{
+    // The side view shows only the motion along x.
+    const float value[2][2] = {{vx1, vx2}, {page == AboveView ? vy1 : 0.0f, page == AboveView ? vy2 : 0.0f}};
+    for (int16_t component = 1; component <= 2; ++component)
+        for (int16_t body = 1; body <= 2; ++body)
+            DrawArrow(canvas, component, BodyScreenX[body], BodyScreenY[body], BodyScreenRadius[body], scale,
+                      value[component - 1][body - 1], colour);
+}
+
+void CollisionScene::DrawArrow(Canvas& canvas, int16_t component, float cx, float cy, float, float scale,
+                               float value, float colour)
+{
+    // Without a scale there is no length to give the arrow: it is left out.
+    if (value == 0 || scale == 0)
+        return;
+    const float length = static_cast<float>(double(ArrowLength) * value / scale);
+    const float direction = Numeric::sign(value);
+    const int32_t pen = colourOf(colour);
+    if (component == 1) {
+        const float tipX = cx + length;
+        canvas.Line(cx, cy, tipX, cy, pen);
+        canvas.LineStep(tipX, cy, -BarbLength * direction, -BarbLength, pen);
+        canvas.LineStep(tipX, cy, -BarbLength * direction, BarbLength, pen);
+    } else {
+        const float tipY = cy - length;
+        canvas.Line(cx, cy, cx, tipY, pen);
+        canvas.LineStep(cx, tipY, BarbLength, BarbLength * direction, pen);
+        canvas.LineStep(cx, tipY, -BarbLength, BarbLength * direction, pen);
+    }
+}

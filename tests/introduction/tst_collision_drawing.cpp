@@ -1,0 +1,300 @@
+#include "WindowChecks.h"
+
+#include "canvas/ImageCanvas.h"
+#include "canvas/Rgb.h"
+#include "introduction/CollisionGraphs.h"
+#include "introduction/CollisionScene.h"
+#include "model/CollisionState.h"
+
+#include <QtTest>
+
+#include <cmath>
+
+#define QNEAR(actual, expected, tolerance) QVERIFY(std::fabs(double(actual) - double(expected)) <= (tolerance))
+
+namespace {
+
+constexpr int16_t AboveView = 1;
+constexpr int16_t SideView = 2;
+constexpr int32_t White = Rgb::RGB(255, 255, 255);
+constexpr int32_t Red = Rgb::RGB(255, 0, 0);
+
+// A picture the size of the introduction's (4575 x 4935 twips), ready for exclusive-or.
+void prepare(ImageCanvas& canvas)
+{
+    canvas.resize(305, 329);
+    canvas.setDrawMode(Canvas::XorPen);
+    canvas.setFillStyle(Canvas::Solid);
+}
+
+// The collision experiment set up and run the way the introduction's page set-up
+// and timer ticks drive it.
+struct CollisionRig
+{
+    ImageCanvas canvas;
+    CollisionSetup setup;
+    CollisionState state{setup};
+    CollisionScene scene;
+    CollisionGraphs graphs;
+    int16_t page = SideView;
+
+    explicit CollisionRig(int16_t forceModel = CollisionSetup::LinearModel)
+    {
+        prepare(canvas);
+        setup.ForceModel = forceModel;
+        scene.InitialiseGround(canvas);
+    }
+
+    int16_t setUpPage(int16_t onPage)
+    {
+        page = onPage;
+        graphs.BuildGraphList(canvas, setup, page);
+        const int16_t code = state.ComputeCollision(page);
+        scene.ComputeViewport(canvas, setup, state, page);
+        scene.DrawCollisionScene(canvas, setup, state, page);
+        return code;
+    }
+
+    void start()
+    {
+        state.SimulationTime = 0;
+        for (int16_t g = 1; g <= graphs.GraphCount; ++g)
+            graphs.GraphRange(setup, state, g, graphs.GraphQuantity[g], 0, 2 * state.ContactStart);
+        graphs.StartGraphClocks(state);
+        graphs.DrawGraphFrames(canvas, graphs.GraphCount);
+    }
+
+    // One tick; true when the run has reached its end.
+    bool tick()
+    {
+        scene.DrawBodies(canvas, setup, state, page);
+        state.SimulationTime += state.TimeStep;
+        for (int16_t i = 1; i <= 2; ++i) {
+            scene.BodyScreenX[i] = scene.ScreenX(state.BodyState(1, 1, i, state.SimulationTime));
+            if (page == AboveView)
+                scene.BodyScreenY[i] = scene.ScreenY(state.BodyState(2, 1, i, state.SimulationTime));
+        }
+        scene.DrawBodies(canvas, setup, state, page);
+        graphs.DrawGraphStep(canvas, setup, state);
+        return 2 * state.ContactStart <= state.SimulationTime;
+    }
+
+    int run()
+    {
+        start();
+        int ticks = 1;
+        while (!tick() && ticks < 200)
+            ++ticks;
+        return ticks;
+    }
+
+    int32_t shown(float x, float y) const
+    {
+        return canvas.pixelColor(int32_t(canvas.toDeviceX(x)), int32_t(canvas.toDeviceY(y)));
+    }
+
+    // The first and last device columns of a picture row that are not background.
+    std::pair<int, int> inkedColumns(float y) const
+    {
+        const int row = int(canvas.toDeviceY(y));
+        int first = -1, last = -1;
+        for (int x = 0; x < canvas.DeviceWidth(); ++x) {
+            if (canvas.pixelColor(x, row) == White)
+                continue;
+            first = first < 0 ? x : first;
+            last = x;
+        }
+        return {first, last};
+    }
+};
+
+} // namespace
+
+class tst_collision_drawing : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { QCOMPARE(closeLeftoverWindows(), 0); }
+    void runErasesEverythingItMoves();
+    void defaultSideViewPicture();
+    void arrowsScaleToTheLargestValue();
+    void zeroScalesAndRangesDrawNothing();
+    void graphPanelsAndProportionalAxes();
+    void contactZoom();
+};
+
+void tst_collision_drawing::runErasesEverythingItMoves()
+{
+    for (int16_t model : {CollisionSetup::LinearModel, CollisionSetup::ContinuousVelocity,
+                          CollisionSetup::ContinuousForce}) {
+        for (int16_t page : {SideView, AboveView}) {
+            CollisionRig rig(model);
+            rig.setup.Y = {0, 30};
+            rig.setup.Uy = {20, 0};
+            QCOMPARE(rig.setUpPage(page), CollisionState::CodeReady);
+            // The float clock may end just short of 2 t_c and take one tick more.
+            const int ticks = rig.run();
+            QVERIFY(ticks == 100 || (ticks == 101 && page == AboveView));
+            rig.scene.DrawBodies(rig.canvas, rig.setup, rig.state, page);
+
+            // Left behind: the ground and the graphs' frames and curves alone.
+            ImageCanvas expected;
+            prepare(expected);
+            if (page == SideView) {
+                expected.setFillColor(int32_t(rig.scene.GroundColor));
+                expected.Box(rig.scene.GroundLeft, rig.scene.GroundTop, rig.scene.GroundRight, rig.scene.GroundBottom);
+            }
+            rig.graphs.RedrawGraphs(expected, rig.setup, rig.state);
+            QVERIFY(rig.canvas.image() == expected.image());
+        }
+    }
+}
+
+void tst_collision_drawing::defaultSideViewPicture()
+{
+    CollisionRig rig;
+    rig.setUpPage(SideView);
+    const CollisionScene& s = rig.scene;
+    // World x -10 to 334 and y -10 to 10 fill the picture; the bodies rest on the ground.
+    QNEAR(s.ScreenX(-10), 0, 1e-2);
+    QNEAR(s.ScreenX(334), 4575, 1e-2);
+    QNEAR(s.ScreenY(10), 0, 1e-2);
+    QNEAR(s.ScreenY(-10), 4935, 1e-2);
+    QNEAR(s.BodyScreenRadius[2], 10 * 4575.0 / 344, 1e-2);
+    QCOMPARE(s.BodyScreenY[2] + s.BodyScreenRadius[2], 4935 * 0.95f);
+
+    QCOMPARE(rig.shown(s.BodyScreenX[1] - 60, s.BodyScreenY[1] + 60), Rgb::RGB(80, 255, 80));
+    QCOMPARE(rig.shown(s.BodyScreenX[2] - 60, s.BodyScreenY[2] + 60), Rgb::RGB(255, 255, 80));
+    QCOMPARE(rig.shown(2000, 4800), Rgb::RGB(192, 0, 0));
+    QCOMPARE(rig.shown(s.BodyScreenX[1] + 200, s.BodyScreenY[1]), Rgb::RGB(255, 255, 175));
+
+    // No force arrows before the contact: the same picture with forces switched off.
+    const QImage withForces = rig.canvas.image();
+    rig.setup.ShowForces = 0;
+    rig.scene.DrawCollisionScene(rig.canvas, rig.setup, rig.state, SideView);
+    QCOMPARE(rig.canvas.image(), withForces);
+}
+
+void tst_collision_drawing::arrowsScaleToTheLargestValue()
+{
+    CollisionRig rig;
+    ImageCanvas& c = rig.canvas;
+    for (const auto& [value, length] : {std::pair{100.0f, 250.0f}, std::pair{50.0f, 125.0f}}) {
+        c.Cls();
+        rig.scene.DrawArrow(c, 1, 1000, 1500, 133, 100, value, Red ^ White);
+        const auto [first, last] = rig.inkedColumns(1500);
+        QCOMPARE(first, int(c.toDeviceX(1000)));
+        QVERIFY(std::abs(last - int(c.toDeviceX(1000 + length))) <= 1);
+        QCOMPARE(rig.shown(1000 + length - 25, 1500 - 25), Red); // a barb
+    }
+    c.Cls();
+    rig.scene.DrawArrow(c, 2, 1000, 1500, 133, 100, -100, Red ^ White);
+    QCOMPARE(rig.shown(1000, 1700), Red); // a negative y value points down
+    QCOMPARE(rig.shown(1000, 1300), White);
+}
+
+void tst_collision_drawing::zeroScalesAndRangesDrawNothing()
+{
+    CollisionRig rig(CollisionSetup::ContinuousVelocity);
+    rig.setUpPage(SideView);
+    ImageCanvas& c = rig.canvas;
+    c.Cls();
+    const QImage blank = c.image();
+    rig.scene.DrawArrow(c, 1, 1000, 1500, 133, 0, 100, Red);
+    rig.scene.DrawArrow(c, 2, 1000, 1500, 133, 100, 0, Red);
+    QCOMPARE(c.image(), blank);
+
+    // Before the contact the force is 0 throughout: no value range, nothing drawn.
+    CollisionGraphs& g = rig.graphs;
+    rig.start();
+    g.GraphRange(rig.setup, rig.state, 3, CollisionState::Force, 0, rig.state.ContactStart / 2);
+    QCOMPARE(g.GraphValueMin[3], 0.0f);
+    QCOMPARE(g.GraphValueMax[3], 0.0f);
+    g.GraphXFactor[1] = g.GraphXFactor[2] = 0;
+    c.Cls();
+    g.RedrawGraphs(c, rig.setup, rig.state);
+    QCOMPARE(c.image(), blank);
+
+    // Kept proportional, the empty range opens up about 0 and can be drawn.
+    rig.setup.ProportionalGraphs = 1;
+    g.GraphRange(rig.setup, rig.state, 3, CollisionState::Force, 0, rig.state.ContactStart / 2);
+    QVERIFY(g.GraphDrawable(3));
+    QCOMPARE(g.GraphShownValueMin[3], -g.GraphShownValueMax[3]);
+}
+
+void tst_collision_drawing::graphPanelsAndProportionalAxes()
+{
+    CollisionRig rig(CollisionSetup::ContinuousForce);
+    rig.setUpPage(SideView);
+    CollisionGraphs& g = rig.graphs;
+    QCOMPARE(g.GraphCount, int16_t(3));
+    const float quarter = 4935 / 4.0f;
+    QCOMPARE(g.PanelLeft[1], 0.02f * 4575);
+    QCOMPARE(g.PanelRight[3], 0.98f * 4575);
+    for (int16_t p = 1; p <= 3; ++p) {
+        QCOMPARE(g.GraphQuantity[p], p);
+        QNEAR(g.PanelBottom[p] - g.PanelTop[p], quarter - g.GraphMargin, 1e-2);
+        QNEAR(g.PanelBottom[p], p * quarter, 1e-2);
+        QCOMPARE(g.PanelAt(g.PanelTop[p] + 10), p);
+    }
+    QCOMPARE(g.PanelAt(4000), int16_t(0));
+
+    // Distances in metres and forces in thousands of newtons widen the time axis
+    // about its centre; one second and one unit then get the same length.
+    rig.setup.ProportionalGraphs = 1;
+    rig.start();
+    const float duration = 2 * rig.state.ContactStart;
+    for (int16_t p : {1, 3}) {
+        QVERIFY(g.GraphShownTimeMax[p] - g.GraphShownTimeMin[p] > duration);
+        QNEAR(g.GraphShownTimeMax[p] + g.GraphShownTimeMin[p], duration, 1e-3);
+        QCOMPARE(g.GraphShownValueMax[p], g.GraphValueMax[p]);
+        QNEAR(g.GraphXFactor[p], -g.GraphYFactor[p], 1e-3 * g.GraphXFactor[p]);
+    }
+
+    // Slow bodies on a long run: the small velocities get the wider axis.
+    rig.setup.X = {0, 900};
+    rig.setup.Ux = {1, 0};
+    QCOMPARE(rig.setUpPage(SideView), CollisionState::CodeReady);
+    rig.start();
+    QCOMPARE(g.GraphShownTimeMax[2], g.GraphTimeMax[2]);
+    QVERIFY(g.GraphShownValueMax[2] - g.GraphShownValueMin[2] > 100 * (g.GraphValueMax[2] - g.GraphValueMin[2]));
+    QNEAR(g.GraphXFactor[2], -g.GraphYFactor[2], 1e-3 * g.GraphXFactor[2]);
+
+    rig.setUpPage(AboveView);
+    QCOMPARE(g.GraphCount, int16_t(0));
+}
+
+void tst_collision_drawing::contactZoom()
+{
+    CollisionRig rig(CollisionSetup::ContinuousForce);
+    rig.setup.GraphDistance = 0;
+    rig.setUpPage(SideView);
+    rig.run();
+    CollisionGraphs& g = rig.graphs;
+    const CollisionState& s = rig.state;
+    // With velocity and force shown, the second panel is the force graph.
+    g.SelectedGraph = g.PanelAt(g.PanelTop[2] + 100);
+    QCOMPARE(g.GraphQuantity[g.SelectedGraph], CollisionState::Force);
+    g.GraphZoomed = 1;
+    g.ZoomGraph(rig.canvas, rig.setup, rig.state, s.ContactStart - 12 * s.TimeStep / 2,
+                s.ContactStart + 36 * s.TimeStep / 2);
+    QNEAR(g.GraphTimeMin[4], 1.6 - 6 * 0.032, 1e-5);
+    QNEAR(g.GraphTimeMax[4], 1.6 + 18 * 0.032, 1e-5);
+    QNEAR(g.PanelBottom[4], 3 * 4935 / 4.0, 1e-2);
+    QNEAR(g.GraphValueMax[4], 3125, 1);
+    QNEAR(g.GraphValueMin[4], -3125, 1);
+
+    // Body 2's triangle peaks at t_m in its colour; the ground is gone.
+    const int x = int(rig.canvas.toDeviceX(s.ContactMiddle * g.GraphXFactor[4] + g.GraphXOffset[4]));
+    const int y = int(rig.canvas.toDeviceY(3125 * g.GraphYFactor[4] + g.GraphYOffset[4]));
+    bool peak = false;
+    for (int dx = -2; dx <= 2; ++dx)
+        for (int dy = -2; dy <= 2; ++dy)
+            peak = peak || rig.canvas.pixelColor(x + dx, y + dy) == Rgb::RGB(255, 255, 80);
+    QVERIFY(peak);
+    QCOMPARE(rig.shown(2000, 4800), White);
+}
+
+QTEST_MAIN(tst_collision_drawing)
+#include "tst_collision_drawing.moc"
