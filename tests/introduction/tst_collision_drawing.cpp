@@ -221,6 +221,14 @@ void tst_collision_drawing::zeroScalesAndRangesDrawNothing()
     g.GraphRange(rig.setup, rig.state, 3, CollisionState::Force, 0, rig.state.ContactStart / 2);
     QVERIFY(g.GraphDrawable(3));
     QCOMPARE(g.GraphShownValueMin[3], -g.GraphShownValueMax[3]);
+
+    // Bodies without mass swap velocities under no force: no scale, and nothing fails.
+    CollisionRig massless(CollisionSetup::ContinuousForce);
+    massless.setup.Mass = {0, 0};
+    QCOMPARE(massless.setUpPage(SideView), CollisionState::CodeReady);
+    QCOMPARE(massless.run(), 100);
+    QNEAR(massless.state.FinalVx[1], 50, 1e-4);
+    QVERIFY(!massless.graphs.GraphDrawable(3));
 }
 
 void tst_collision_drawing::graphPanelsAndProportionalAxes()
