@@ -8,7 +8,9 @@
 #include "core/SharedRandom.h"
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
+#include <cstdlib>
 
 namespace {
 
@@ -19,6 +21,24 @@ constexpr int32_t Black = Rgb::RGB(0, 0, 0);
 RunTimeError objectNotSet()
 {
     return RunTimeError(91, "Object variable or With block variable not set");
+}
+
+// Numeric::toInt32's rounding (to nearest, halves to even) without a library call,
+// for the contact tests of every pair in every step: adding and taking away
+// 1.5 x 2^52 rounds a double in the default rounding mode. Out of the safe range
+// Numeric::toInt32 decides, and throws where it must.
+int32_t roundToInt32(double value)
+{
+    constexpr double shifter = 6755399441055744.0;
+    if (std::fabs(value) < 1e9)
+        return static_cast<int32_t>((value + shifter) - shifter);
+    return Numeric::toInt32(value);
+}
+
+// 2 to the power j - 1: the bit that stands for partner j.
+double partnerBit(int16_t j)
+{
+    return j <= 62 ? double(int64_t{1} << (j - 1)) : std::ldexp(1.0, j - 1);
 }
 
 } // namespace
@@ -35,18 +55,11 @@ Canvas& Gas::canvas() const
     return *m_Canvas;
 }
 
-Particle& Gas::Molecule(int16_t i)
+Particle& Gas::missingMolecule(int16_t i) const
 {
     if (i < 1 || i > m_NoOfMolecules || size_t(i) >= m_Molecule.size())
         throw RunTimeError::subscriptOutOfRange();
-    if (!m_Molecule[i])
-        throw objectNotSet();
-    return *m_Molecule[i];
-}
-
-const Particle& Gas::Molecule(int16_t i) const
-{
-    return const_cast<Gas*>(this)->Molecule(i);
+    throw objectNotSet();
 }
 
 void Gas::InitialiseParticles()
@@ -481,10 +494,10 @@ void Gas::ShowNextSnapshot(float& ImpulseLeft, float& ImpulseRight, float& Impul
 void Gas::ExamineContacts(int16_t i)
 {
     for (int16_t j = i + 1; j <= m_NoOfMolecules; ++j) {
-        const double b = std::ldexp(1.0, j - 1);
+        const double b = partnerBit(j);
         const double c = Molecule(i).CollisionInProgress();
         const bool inContact = MoleculesInContact(i, j);
-        const bool present = (Numeric::toInt32(b) & Numeric::toInt32(c)) != 0;
+        const bool present = (roundToInt32(b) & roundToInt32(c)) != 0;
         if (!inContact) {
             if (present)
                 Molecule(i).setCollisionInProgress(c - b);
@@ -501,9 +514,19 @@ bool Gas::MoleculesInContact(int16_t i, int16_t j)
 {
     const Particle& a = Molecule(i);
     const Particle& b = Molecule(j);
-    const float d = PointDistance(Numeric::toInt32(a.Xcoord()), Numeric::toInt32(b.Xcoord()),
-                                  Numeric::toInt32(a.Ycoord()), Numeric::toInt32(b.Ycoord()));
-    return d <= Numeric::mul16(2, m_radius);
+    const int32_t xi = roundToInt32(a.Xcoord());
+    const int32_t xj = roundToInt32(b.Xcoord());
+    const int32_t yi = roundToInt32(a.Ycoord());
+    const int32_t yj = roundToInt32(b.Ycoord());
+    const int32_t reach = m_radius <= 16383 && m_radius >= -16384 ? 2 * m_radius : Numeric::mul16(2, m_radius);
+    // A pair further apart than the reach along either axis is apart whatever the
+    // rounding of the distance; the distance itself is needed only near contact.
+    const int64_t dx = int64_t(xi) - xj;
+    const int64_t dy = int64_t(yi) - yj;
+    const bool differencesFit = std::max(std::llabs(dx), std::llabs(dy)) <= INT32_MAX;
+    if (differencesFit && (std::llabs(dx) > reach || std::llabs(dy) > reach))
+        return false;
+    return PointDistance(xi, xj, yi, yj) <= reach;
 }
 
 // An elastic collision of two discs: the velocity components along the line of

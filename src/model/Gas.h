@@ -174,8 +174,13 @@ public:
     void setWallCoord(float value) { m_WallCoord = value; }
 
     // Molecule i, 1 to NoOfMolecules; any other index throws SubscriptOutOfRange.
-    Particle& Molecule(int16_t i);
-    const Particle& Molecule(int16_t i) const;
+    Particle& Molecule(int16_t i)
+    {
+        if (i >= 1 && i <= m_NoOfMolecules && size_t(i) < m_Molecule.size() && m_Molecule[i])
+            return *m_Molecule[i];
+        return missingMolecule(i);
+    }
+    const Particle& Molecule(int16_t i) const { return const_cast<Gas*>(this)->Molecule(i); }
 
     // The style flags kept while a molecule is observed.
     bool SavedFilledMolecules() const { return m_SavedFilledMolecules; }
@@ -186,6 +191,7 @@ public:
     static constexpr int32_t WallColor = 200 + 256 * 200 + 65536 * 200;
 
 private:
+    [[noreturn]] Particle& missingMolecule(int16_t i) const;
     Canvas& canvas() const;
     void CreateMolecule(int16_t c, int16_t r, int16_t k);
     void PlaceOnLattice(Particle& molecule, int16_t c, int16_t r);
