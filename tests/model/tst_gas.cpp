@@ -103,37 +103,15 @@ private slots:
                 QCOMPARE(m.Xcoord(), c.x[m.Column() - 1]);
                 QCOMPARE(m.Ycoord(), c.y[m.Row() - 1]);
                 QCOMPARE(std::fabs(m.Vx()) + std::fabs(m.Vy()), 100.0f);
-                QCOMPARE(m.KapaX(), 3.0f);
                 QCOMPARE(m.OmegaX(), 0.0f);
-                QCOMPARE(m.FluxProbability(), 1.0f);
                 QCOMPARE(m.color(), Red);
-                QCOMPARE(m.FillStyle(), int16_t(1));
             }
             QVERIFY_THROWS_EXCEPTION(RunTimeError, gas.Molecule(7));
             QVERIFY_THROWS_EXCEPTION(RunTimeError, gas.Molecule(0));
         }
     }
 
-    void rebuildingAndReleasing()
-    {
-        ImageCanvas canvas;
-        canvas.setScale(0, 0, 300, 300);
-        Gas gas;
-        setUpBox(gas, canvas, 2, 100, 2, 2);
-        QCOMPARE(gas.Molecule(2).Ycoord(), float(100 + 400 / 3.0));
-        const Particle* first = &gas.Molecule(1);
-        gas.setRowsOfMolecules(0);
-        gas.InitialiseParticles();
-        gas.setRowsOfMolecules(2);
-        QCOMPARE(&gas.Molecule(1), first);
-        gas.DestroyMolecules();
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, gas.Molecule(1));
-
-        gas.setRowsOfMolecules(200);
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, gas.setColumnsOfMolecules(200));
-    }
-
-    void settingsReachEveryMolecule()
+    void settingsReachEveryMoleculeUntilReleased()
     {
         ImageCanvas canvas;
         canvas.setScale(0, 0, 300, 300);
@@ -157,7 +135,17 @@ private slots:
         const QImage afterRadius = canvas.image();
         gas.DrawGas();
         QCOMPARE(canvas.image(), afterRadius);
-        QCOMPARE(gas.Molecule(3).radius(), int16_t(12));
+
+        // No molecules to make leaves the old ones; releasing empties the slots.
+        const Particle* first = &gas.Molecule(1);
+        gas.setRowsOfMolecules(0);
+        gas.InitialiseParticles();
+        gas.setRowsOfMolecules(2);
+        QCOMPARE(&gas.Molecule(1), first);
+        gas.DestroyMolecules();
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, gas.Molecule(1));
+        gas.setRowsOfMolecules(200);
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, gas.setColumnsOfMolecules(200));
     }
 
     void temperatureSetsSpeedAndPhase()

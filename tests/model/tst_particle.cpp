@@ -254,46 +254,25 @@ private slots:
         }
     }
 
-    void drawingAndErasing()
+    void centreLineIsDrawnAndErasedWithTheDisc()
     {
         auto m = freeMolecule(canvas, 3, 300);
         m->setRadius(30);
         m->setColor(Red);
-        m->setFillStyle(0);
         m->setXcoord(500);
         m->setYcoord(400);
         m->setXCenter(900);
         m->setYCenter(400);
         const QImage blank = canvas.image();
-
-        m->DrawYourself(false);
-        QCOMPARE(canvas.pixelColor(50, 40), Red);
-        QCOMPARE(canvas.pixelColor(80, 40), White);
-        m->EraseYourself(false);
-        QCOMPARE(canvas.image(), blank);
-        m->DrawYourself(true);
-        QCOMPARE(canvas.pixelColor(80, 40), Red);
-        m->EraseYourself(true);
-        QCOMPARE(canvas.image(), blank);
-
-        // A trail dot in the true colour stays where the centre was.
-        m->setLeaveTrail(true);
-        m->DrawYourself(false);
-        m->EraseYourself(false);
-        QCOMPARE(canvas.DrawMode(), Canvas::XorPen);
-        m->setXcoord(700);
-        m->DrawYourself(false);
-        m->EraseYourself(false);
-        QCOMPARE(canvas.pixelColor(50, 40), Red);
-        QCOMPARE(canvas.pixelColor(70, 40), Red);
-        QCOMPARE(canvas.pixelColor(60, 40), White);
-    }
-
-    void everyMoleculeNeedsASurface()
-    {
-        Particle m;
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, m.setColor(Red));
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, m.setMass(1));
+        for (bool line : {false, true}) {
+            m->DrawYourself(line);
+            QCOMPARE(canvas.pixelColor(50, 42), Red);
+            QCOMPARE(canvas.pixelColor(80, 40), line ? Red : White);
+            m->EraseYourself(line);
+            QCOMPARE(canvas.image(), blank);
+        }
+        Particle withoutSurface;
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, withoutSurface.setMass(1));
     }
 };
 
