@@ -23,6 +23,7 @@ float randomSpeed()
 void LiquidMolecules::Lay(Canvas& canvas, const Layout& layout)
 {
     Clear();
+    m_canvas = &canvas;
     const int32_t count = int32_t(layout.rows) * layout.columns;
     if (count > MaxMolecules)
         throw RunTimeError::subscriptOutOfRange();
@@ -38,16 +39,22 @@ void LiquidMolecules::Lay(Canvas& canvas, const Layout& layout)
             const int16_t group = x < VesselMiddle ? 1 : 2;
             molecule->setCanvas(&canvas);
             molecule->setWall(NoWall);
-            molecule->setColor(layout.groupColor[group - 1]);
+            // Drawn in copy mode over the vessel picture, a molecule shows its
+            // drawing colour, which is its colour combined with the background.
+            molecule->setColor(layout.groupColor[group - 1] ^ canvas.BackColor());
             molecule->setRadius(layout.radius);
             molecule->setFillStyle(0);
             molecule->setXcoord(x);
             molecule->setYcoord(layout.liquidLevel + (j - 0.5f) * depth / layout.columns);
-            molecule->setVx(randomSpeed());
-            molecule->setVy(randomSpeed());
             m_molecules.push_back(std::move(molecule));
             m_group.push_back(group);
         }
+    }
+    // Every new molecule reseeds the random sequence from the clock, so the speeds
+    // are drawn once all exist: molecules made within one second still differ.
+    for (auto& molecule : m_molecules) {
+        molecule->setVx(randomSpeed());
+        molecule->setVy(randomSpeed());
     }
 }
 
@@ -121,6 +128,13 @@ void LiquidMolecules::collide(Particle& a, Particle& b) const
 
 void LiquidMolecules::Draw()
 {
+    if (!m_canvas)
+        return;
+    // The page is cleared for every frame, so the molecules need no exclusive-or
+    // drawing, which would mix their colours with the picture under them.
+    const int16_t mode = m_canvas->DrawMode();
+    m_canvas->setDrawMode(Canvas::CopyPen);
     for (auto& molecule : m_molecules)
         molecule->DrawYourself(false);
+    m_canvas->setDrawMode(mode);
 }

@@ -49,7 +49,7 @@ public:
     // Moves every molecule by one step, with rebounds and collisions.
     void Step();
 
-    // Draws every molecule once (on a freshly cleared picture).
+    // Draws every molecule once in its own colour (on a freshly cleared picture).
     void Draw();
 
     // The number of molecules, and molecule k (1 to MoleculeCount).
@@ -64,6 +64,7 @@ private:
     void reboundFromWalls(Particle& molecule, int16_t group) const;
     void collide(Particle& a, Particle& b) const;
 
+    Canvas* m_canvas = nullptr;
     std::vector<std::unique_ptr<Particle>> m_molecules;
     std::vector<int16_t> m_group;
     std::array<float, 3> m_GroupLeft{};

@@ -286,6 +286,13 @@ void IntroductionTest::liquidPagesShowTheVesselAndTheirMolecules()
     QCOMPARE(molecules.Molecule(6).Xcoord(), 1000 + 1.5f * 2480 / 6);
     QCOMPARE(molecules.Molecule(1).radius(), int16_t(150));
     QCOMPARE(molecules.GroupRight(1), 2240.0f);
+    // Each group shows in its own colour over the picture.
+    for (int16_t k : {1, 30}) {
+        const Particle& molecule = molecules.Molecule(k);
+        const int32_t shown = canvas.pixelColor(int(canvas.toDeviceX(molecule.Xcoord())),
+            int(canvas.toDeviceY(molecule.Ycoord())));
+        QCOMPARE(shown, int32_t(FluidParameters::shared().FluidGroupColor[k == 1 ? 1 : 2]));
+    }
 
     // A click on the picture takes the partition out; both groups get the vessel.
     QTest::mouseClick(intro().findChild<CanvasWidget*>("picIntroduction"), Qt::LeftButton, {}, QPoint(100, 200));
@@ -320,8 +327,11 @@ void IntroductionTest::aLiquidRunRedrawsUntilFinish()
 
     // The molecules stay in their halves of the vessel while they move.
     const LiquidMolecules& molecules = intro().Liquid().Molecules();
+    const float firstX = molecules.Molecule(1).Xcoord();
+    QVERIFY(molecules.Molecule(1).Vx() != molecules.Molecule(2).Vx());
     for (int tick = 0; tick < 300; ++tick)
         run.Timer1_Timer();
+    QVERIFY(molecules.Molecule(1).Xcoord() != firstX);
     for (int16_t k = 1; k <= molecules.MoleculeCount(); ++k) {
         const Particle& molecule = molecules.Molecule(k);
         const float x = molecule.Xcoord();
