@@ -2,7 +2,6 @@
 
 #include <QTime>
 
-#include <cmath>
 #include <cstring>
 
 uint32_t SharedRandom::s_state = 0x50000u;
@@ -28,6 +27,12 @@ void SharedRandom::reseedFromClock()
 {
     if (s_fixedDepth > 0)
         return;
-    const QTime now = QTime::currentTime();
-    seed(now.msecsSinceStartOfDay() / 1000.0);
+    // The clock replaces only the middle bits of the state, so molecules made
+    // within the same second still draw different numbers.
+    const float seconds = static_cast<float>(QTime::currentTime().msecsSinceStartOfDay() / 1000.0);
+    uint32_t bits = 0;
+    std::memcpy(&bits, &seconds, sizeof bits);
+    const uint32_t mixed = ((bits >> 16) ^ bits) & 0xFFFFu;
+    s_state = (s_state & 0xFF00FFu) | (mixed << 8);
+    next();
 }

@@ -12,8 +12,9 @@ public:
     static float next();
     // Restarts the sequence from a seed.
     static void seed(double seed);
-    // Reseeds from the seconds since midnight, as every new molecule does; while a
-    // fixed sequence is in force it leaves the sequence to run on undisturbed.
+    // Reseeds from the seconds since midnight, as every new molecule does, mixing
+    // the clock into the state; while a fixed sequence is in force it leaves the
+    // sequence to run on undisturbed.
     static void reseedFromClock();
 
 private:
