@@ -1,0 +1,62 @@
+#include "ForceStatistics.h"
+
+#include <QLocale>
+
+namespace {
+
+QLocale displayLocale()
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale;
+}
+
+} // namespace
+
+ForceReadout ForceStatistics::UpdateForceIndicators(float Fleft, float Fright, float Ftop, float Fbottom)
+{
+    ForceReadout readout;
+    ++m_TickCount;
+    readout.CurrentLeft = QStringLiteral("  Fleft = ") + FormatForce(Fleft);
+    readout.CurrentRight = QStringLiteral("  Fright = ") + FormatForce(Fright);
+    m_SumLeft += Fleft;
+    m_SumRight += Fright;
+    readout.CurrentTop = QStringLiteral("  Ftop = ") + FormatForce(Ftop);
+    m_SumTop += Ftop;
+    m_SumBottom += Fbottom;
+    readout.MeanLeft = mean("<Fleft> = ", m_SumLeft);
+    readout.MeanRight = mean("<Fright> = ", m_SumRight);
+    readout.MeanTop = mean("<Ftop> = ", m_SumTop);
+    // The net totals are summed in double and kept as floats, as the panel uses them.
+    readout.H = static_cast<float>(m_SumRight + m_SumLeft);
+    readout.V = static_cast<float>(m_SumBottom + m_SumTop);
+    readout.MeanHorizontal = mean("<Fhorizontal> = ", readout.H);
+    readout.MeanVertical = mean("<Fvertical> = ", readout.V);
+    return readout;
+}
+
+void ForceStatistics::InitialiseCounters()
+{
+    m_TickCount = 0;
+    m_SumLeft = 0;
+    m_SumRight = 0;
+    m_SumTop = 0;
+    m_SumBottom = 0;
+}
+
+QString ForceStatistics::mean(const char* prefix, double sum) const
+{
+    return QLatin1String(prefix) + FormatForce(sum / static_cast<double>(m_TickCount));
+}
+
+QString ForceStatistics::FormatForce(double value)
+{
+    const QLocale locale = displayLocale();
+    // The sign is written by hand so that a small negative value keeps it after
+    // rounding, and the magnitude is rounded to two decimals before a trailing zero
+    // in the second place is dropped.
+    QString digits = locale.toString(value < 0 ? -value : value, 'f', 2);
+    if (digits.endsWith(locale.zeroDigit()))
+        digits.chop(locale.zeroDigit().size());
+    return value < 0 ? locale.negativeSign() + digits : digits;
+}

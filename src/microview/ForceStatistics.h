@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+// The figures of one tick: the texts of the eight force labels and the net totals
+// (sums since the last reset) that move the balloon panel.
+struct ForceReadout
+{
+    QString CurrentLeft;
+    QString CurrentRight;
+    QString CurrentTop;
+    QString MeanLeft;
+    QString MeanRight;
+    QString MeanTop;
+    QString MeanHorizontal;
+    QString MeanVertical;
+    float H = 0;
+    float V = 0;
+};
+
+// The wall force statistics of the microscopic view: counts the ticks, sums each
+// wall's per-tick impulse and turns them into current and mean values.
+class ForceStatistics
+{
+public:
+    // Adds one tick's wall values and returns the labels and the net totals.
+    ForceReadout UpdateForceIndicators(float Fleft, float Fright, float Ftop, float Fbottom);
+
+    // Sets the tick count and the four sums to 0.
+    void InitialiseCounters();
+
+    // The ticks since the last reset; 64 bits so that no run ever overflows it.
+    int64_t TickCount() const { return m_TickCount; }
+    double SumLeft() const { return m_SumLeft; }
+    double SumRight() const { return m_SumRight; }
+    double SumTop() const { return m_SumTop; }
+    double SumBottom() const { return m_SumBottom; }
+
+    // A number with at least one digit before and one or two after the user's
+    // decimal separator, rounded to two decimals, no digit grouping.
+    static QString FormatForce(double value);
+
+private:
+    QString mean(const char* prefix, double sum) const;
+
+    int64_t m_TickCount = 0;
+    double m_SumLeft = 0;
+    double m_SumRight = 0;
+    double m_SumTop = 0;
+    double m_SumBottom = 0;
+};
