@@ -8,6 +8,7 @@
 #include "shell/FormLayout.h"
 
 #include <QCheckBox>
+#include <QFont>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -90,6 +91,12 @@ QCheckBox* checkBox(QWidget* parent, const QString& name, const QString& caption
 
 void MicroViewDesign::buildControls(QWidget* form)
 {
+    // The design's twips leave room for the narrow 8-point dialog font of old (11
+    // pixels); a wider font would clip the longer check box captions.
+    QFont font = form->font();
+    font.setPixelSize(11);
+    font.setStretch(QFont::SemiCondensed);
+    form->setFont(font);
     buildCalculations(form);
     buildSamplePictures(form);
     buildMacroView(form);
