@@ -81,15 +81,20 @@ void LiquidMolecules::Step()
 {
     float impulseX = 0;
     float impulseY = 0;
-    for (size_t k = 0; k < m_molecules.size(); ++k) {
-        // No external force, no perturbation and no measured wall: Move is a
-        // straight step, and the vessel's walls are handled here.
-        m_molecules[k]->Move(1, 0, 0, false, 1, 1, impulseX, impulseY);
-        reboundFromWalls(*m_molecules[k], m_group[k]);
-    }
+    // No external force, no perturbation and no measured wall: Move is a straight
+    // step, and the vessel's walls are handled here.
+    for (auto& molecule : m_molecules)
+        molecule->Move(1, 0, 0, false, 1, 1, impulseX, impulseY);
+    // The partition keeps the groups apart, so molecules on either side of it never
+    // meet while it stands.
+    const bool partitioned = m_GroupLeft[1] != m_GroupLeft[2];
     for (size_t a = 0; a < m_molecules.size(); ++a)
         for (size_t b = a + 1; b < m_molecules.size(); ++b)
-            collide(*m_molecules[a], *m_molecules[b]);
+            if (!partitioned || m_group[a] == m_group[b])
+                collide(*m_molecules[a], *m_molecules[b]);
+    // The walls act last, so a collision cannot send a molecule on through one.
+    for (size_t k = 0; k < m_molecules.size(); ++k)
+        reboundFromWalls(*m_molecules[k], m_group[k]);
 }
 
 void LiquidMolecules::reboundFromWalls(Particle& molecule, int16_t group) const

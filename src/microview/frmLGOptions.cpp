@@ -82,6 +82,9 @@ void frmLGOptions::createControls()
     chk3DLiquidSurface = new QWidget(fraOptions);
     chk3DLiquidSurface->setObjectName("chk3DLiquidSurface");
     FormLayout::place(chk3DLiquidSurface, 480, 1920, 2055, 255);
+    // The switch's area shows no hint: moves over it do not reach the dialog.
+    chk3DLiquidSurface->setMouseTracking(true);
+    chk3DLiquidSurface->setAttribute(Qt::WA_NoMousePropagation);
 
     createCommandButtons();
 }

@@ -27,11 +27,7 @@ void DefaultsTest::cleanup()
 void DefaultsTest::fluidDefaults()
 {
     FluidParameters& fluid = FluidParameters::shared();
-    fluid.FluidRows = 1;
-    fluid.FluidColumns = 2;
-    fluid.FluidGroupColor[1] = 7;
-    fluid.DefaultFluidGroupColor[2] = 7;
-    fluid.LiquidSurface3D = false;
+    fluid = FluidParameters{1, 2, {0, 7, 7}, {0, 7, 7}, false};
     ResetFluidDefaults();
     QCOMPARE(fluid.FluidRows, int16_t(6));
     QCOMPARE(fluid.FluidColumns, int16_t(5));
