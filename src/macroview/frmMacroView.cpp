@@ -1,8 +1,164 @@
 #include "frmMacroView.h"
 
+#include "MovieLayout.h"
+
+#include "core/Twips.h"
+#include "shell/FormLayout.h"
+#include "shell/Forms.h"
+#include "shell/HandlerGuard.h"
+#include "shell/StatusHints.h"
+#include "shell/suppl.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QMediaPlayer>
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <QVideoWidget>
+
+namespace {
+
+constexpr int DesignWidth = 6105;
+constexpr int DesignHeight = 4455;
+
+QString& movieFolderOverride()
+{
+    static QString folder;
+    return folder;
+}
+
+} // namespace
+
 frmMacroView::frmMacroView()
 {
     setObjectName("frmMacroView");
     setWindowTitle("Macroscopic View");
-    resize(480, 320);
+    buildControls();
+    resize(sizeHint());
+    Form_Load();
+}
+
+QSize frmMacroView::sizeHint() const
+{
+    return QSize(Twips::toPixels(DesignWidth), Twips::toPixels(DesignHeight));
+}
+
+void frmMacroView::buildControls()
+{
+    picMovie = new QFrame(this);
+    picMovie->setObjectName("picMovie");
+    picMovie->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    picMovie->setStyleSheet("QFrame#picMovie { background: black; }");
+    FormLayout::place(picMovie, 600, 240, 4815, 3375);
+    auto* inside = new QVBoxLayout(picMovie);
+    inside->setContentsMargins(2, 2, 2, 2);
+    oleMovie = new QVideoWidget(picMovie);
+    oleMovie->setObjectName("oleMovie");
+    inside->addWidget(oleMovie);
+    lblMovieMessage = new QLabel(picMovie);
+    lblMovieMessage->setObjectName("lblMovieMessage");
+    lblMovieMessage->setAlignment(Qt::AlignCenter);
+    lblMovieMessage->setWordWrap(true);
+    lblMovieMessage->setStyleSheet("color: white; background: black; padding: 12px;");
+    lblMovieMessage->hide();
+    inside->addWidget(lblMovieMessage);
+
+    const char* const captions[] = {"Exit", "Play"};
+    for (int i = 0; i < 2; ++i) {
+        cmdCommand[i] = new QPushButton(captions[i], this);
+        cmdCommand[i]->setObjectName(QString("cmdCommand(%1)").arg(i));
+        connect(cmdCommand[i], &QPushButton::clicked, this, [this, i] { cmdCommand_Click(i); });
+    }
+    FormLayout::place(cmdCommand[1], 2760, 3840, 1095, 375);
+    FormLayout::place(cmdCommand[0], 4200, 3840, 1095, 375);
+    StatusHints::install(picMovie, "A Floatrixon rising into the evening sky");
+    StatusHints::install(cmdCommand[1], "Play the film from where it stands");
+    StatusHints::install(cmdCommand[0], "Close the macroscopic view");
+
+    m_player = new QMediaPlayer(this);
+    m_player->setVideoOutput(oleMovie);
+    connect(m_player, &QMediaPlayer::errorOccurred, this, [this](QMediaPlayer::Error, const QString& error) {
+        showMovieMessage(QString("The film cannot be shown.\n\n\"floatrixo.avi\" could not be played:\n%1")
+                             .arg(error));
+    });
+}
+
+void frmMacroView::Form_Load()
+{
+    const QString& folder = movieFolderOverride();
+    const QString path = MoviePath(folder.isEmpty() ? QCoreApplication::applicationDirPath() : folder);
+    if (!QFileInfo(path).isReadable()) {
+        showMovieMessage(QString("The film cannot be shown.\n\n\"floatrixo.avi\" is missing from the "
+                                 "program's folder:\n%1")
+                             .arg(QFileInfo(path).absolutePath()));
+        return;
+    }
+    m_player->setSource(QUrl::fromLocalFile(path));
+}
+
+QString frmMacroView::MoviePath(const QString& folder)
+{
+    return folder.endsWith('/') ? folder + "floatrixo.avi" : folder + "/floatrixo.avi";
+}
+
+void frmMacroView::setMovieFolder(const QString& folder)
+{
+    movieFolderOverride() = folder;
+}
+
+QString frmMacroView::movieMessage() const
+{
+    return lblMovieMessage->isHidden() ? QString() : lblMovieMessage->text();
+}
+
+void frmMacroView::showMovieMessage(const QString& text)
+{
+    oleMovie->hide();
+    lblMovieMessage->setText(text);
+    lblMovieMessage->show();
+    cmdCommand[1]->setEnabled(false);
+}
+
+void frmMacroView::cmdCommand_Click(int Index)
+{
+    RunGuarded([this, Index] {
+        switch (Index) {
+        case 0:
+            Unload<frmMacroView>();
+            break;
+        case 1:
+            m_player->play();
+            break;
+        default:
+            break;
+        }
+    });
+}
+
+void frmMacroView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    RunGuarded([this] { Form_Resize(); });
+}
+
+void frmMacroView::Form_Resize()
+{
+    CentreForm(this);
+    // The layout follows the outer size: the child-window frame when there is one.
+    auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    const QSize outer = frame ? frame->size() : frameGeometry().size();
+    const MovieLayout layout =
+        MovieLayout::arrange(Twips::fromPixels(outer.width()), Twips::fromPixels(outer.height()));
+    placeInTwips(picMovie, layout.picMovie);
+    placeInTwips(cmdCommand[0], layout.exit);
+    placeInTwips(cmdCommand[1], layout.play);
+}
+
+void frmMacroView::placeInTwips(QWidget* control, const QRectF& twips)
+{
+    control->setGeometry(Twips::toPixels(twips.left()), Twips::toPixels(twips.top()),
+        Twips::toPixels(twips.width()), Twips::toPixels(twips.height()));
 }

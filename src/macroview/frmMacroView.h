@@ -1,12 +1,59 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
-// The "Macroscopic View" child window of the main frame.
+#include <array>
+
+class QFrame;
+class QLabel;
+class QMediaPlayer;
+class QPushButton;
+class QVideoWidget;
+
+// The "Macroscopic View" child window of the main frame: the film of a balloon
+// rising ("floatrixo.avi" from the program's folder) in its frame, with "Play" and
+// "Exit". A missing or unreadable film leaves a message in the frame instead.
 class frmMacroView : public QWidget
 {
     Q_OBJECT
 
 public:
+    // Loads the window and embeds the film.
     frmMacroView();
+
+    // 0 "Exit" unloads the window; 1 "Play" plays the film from where it stands.
+    void cmdCommand_Click(int Index);
+
+    // The path of the film in a folder, with exactly one separator between them.
+    static QString MoviePath(const QString& folder);
+
+    // The folder the film is taken from at the next load; empty means the
+    // program's own folder. Lets a test show the window without its film.
+    static void setMovieFolder(const QString& folder);
+
+    // The player of the embedded film.
+    QMediaPlayer* player() const { return m_player; }
+
+    // The message shown in the frame in place of the film; empty while the film
+    // can be shown.
+    QString movieMessage() const;
+
+    QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void buildControls();
+    void Form_Load();
+    void Form_Resize();
+    void showMovieMessage(const QString& text);
+    void placeInTwips(QWidget* control, const QRectF& twips);
+
+    QFrame* picMovie = nullptr;
+    QVideoWidget* oleMovie = nullptr;
+    QLabel* lblMovieMessage = nullptr;
+    QMediaPlayer* m_player = nullptr;
+    std::array<QPushButton*, 2> cmdCommand{};
 };
