@@ -45,10 +45,7 @@ int16_t ExperimentView::CheckCollision()
 
 QString ExperimentView::CheckBoxText(int16_t code)
 {
-    std::string text = CollisionState::CheckBoxText(code);
-    if (text.empty())
-        text = CollisionState::CheckBoxText(CollisionState::CodeNoCollision);
-    return QString::fromStdString(text);
+    return QString::fromStdString(CollisionState::CheckBoxText(code));
 }
 
 float ExperimentView::RunEnd() const

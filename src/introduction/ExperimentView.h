@@ -38,9 +38,8 @@ public:
     // starting picture and returns the check code (0: a run may start).
     int16_t CheckCollision();
 
-    // The text of the check's message box for a failed check. Codes that have no
-    // message of their own say that the bodies will not collide, so the learner is
-    // never left without a word.
+    // The text of the check's message box for a failed check; empty for the codes
+    // that have no message (the run stays blocked without a word).
     static QString CheckBoxText(int16_t code);
 
     // Starts a run: clock at 0, no graph enlarged, graph ranges for the whole run,

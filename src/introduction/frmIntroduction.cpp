@@ -371,7 +371,9 @@ void frmIntroduction::CheckCollision()
         cmdCommand[5]->setFocus();
         return;
     }
-    MsgBox(ExperimentView::CheckBoxText(code), 16, QString::fromLatin1(CollisionState::CheckTitle));
+    const QString text = ExperimentView::CheckBoxText(code);
+    if (!text.isEmpty())
+        MsgBox(text, 16, QString::fromLatin1(CollisionState::CheckTitle));
 }
 
 void frmIntroduction::StartSimulation()

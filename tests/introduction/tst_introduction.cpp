@@ -515,6 +515,11 @@ void IntroductionTest::aFailedCheckSaysWhyAndBlocksTheRun()
     QCOMPARE(answerer.count(), 1);
     QVERIFY(answerer.text().contains("x components of velocity are equal"));
     QVERIFY(!button(5)->isEnabled());
+    // Equal x and y velocities from above make a code without a message of its own.
+    CollisionSetup::global().Uy[1] = CollisionSetup::global().Uy[2] = 10;
+    goTo(3, 1);
+    QCOMPARE(answerer.count(), 1);
+    QVERIFY(!button(5)->isEnabled());
 }
 
 void IntroductionTest::clicksZoomTheGraphsAfterARun()
