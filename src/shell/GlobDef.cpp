@@ -4,14 +4,25 @@
 #include "MDIMain.h"
 #include "MsgBox.h"
 
+#include "about/ProgramImages.h"
 #include "about/frmIdentify.h"
+#include "core/Numeric.h"
 
 #include <QApplication>
 #include <QThread>
 
 void StartUp()
 {
-    ShowMainWindow();
+    QApplication::setWindowIcon(ProgramImages::icon());
+    frmIdentify& splash = Form<frmIdentify>();
+    splash.show();
+    splash.setWindowTitle(QString());
+    // The panel starts below the part of the window that stays visible and slides
+    // up into it.
+    splash.setFraIdentifyTop(Numeric::toInt16(0.8 * splash.ScaleHeight()));
+    splash.setOuterHeight(3455);
+    splash.repaint();
+    splash.EffectTimer().start();
 }
 
 void ShowMainWindow()

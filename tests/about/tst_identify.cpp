@@ -1,0 +1,177 @@
+#include "ModalAnswerer.h"
+#include "WindowChecks.h"
+
+#include "about/MemoryStatus.h"
+#include "about/frmIdentify.h"
+#include "core/Twips.h"
+#include "shell/Forms.h"
+#include "shell/GlobDef.h"
+#include "shell/MDIMain.h"
+
+#include <QEventLoop>
+#include <QLabel>
+#include <QMdiArea>
+#include <QPushButton>
+#include <QtTest>
+
+namespace {
+
+QWidget* control(const QString& name)
+{
+    return Form<frmIdentify>().findChild<QWidget*>(name);
+}
+
+int panelTop()
+{
+    return Form<frmIdentify>().FraIdentifyTop();
+}
+
+void hover(QWidget* widget)
+{
+    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), widget->mapToGlobal(QPointF(5, 5)), Qt::NoButton,
+        Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &move);
+}
+
+bool logoFramed()
+{
+    return static_cast<QLabel*>(control("picLogo"))->frameShape() == QFrame::Box;
+}
+
+// The main frame as the splash leaves it: shown, with no child window and an empty
+// status line.
+void verifyHandedOver()
+{
+    QVERIFY(!IsLoaded<frmIdentify>());
+    QVERIFY(Form<MDIMain>().isVisible());
+    QVERIFY(Form<MDIMain>().mdiArea()->subWindowList().isEmpty());
+    QCOMPARE(Form<MDIMain>().statusLine(), QString());
+}
+
+} // namespace
+
+class IdentifyTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void splashSlidesUpRestsAndHandsOver();
+    void clickShortensTheSplashWhereThePanelStands();
+    void aboutBoxShowsMemoryAndFramesTheIconOnHover();
+    void memoryLineFormat();
+};
+
+void IdentifyTest::cleanup()
+{
+    // Nothing but the main frame the splash hands over to may be left.
+    QVERIFY(!IsLoaded<frmIdentify>());
+    QVERIFY(closeLeftoverWindows() <= 1);
+}
+
+void IdentifyTest::splashSlidesUpRestsAndHandsOver()
+{
+    StartUp();
+    frmIdentify& splash = Form<frmIdentify>();
+    QVERIFY(splash.isVisible());
+    QCOMPARE(splash.windowTitle(), QString());
+    QCOMPARE(splash.frameGeometry().height(), Twips::toPixels(3455));
+    QVERIFY(splash.EffectTimer().isActive());
+    QCOMPARE(splash.EffectTimer().interval(), 50);
+    // 0.8 of the design inner height, below the part that stays visible.
+    QCOMPARE(panelTop(), 3468);
+    QVERIFY(control("FraIdentify")->y() >= splash.height());
+
+    for (int tick = 1; tick <= 136; ++tick)
+        splash.EffectTimer_Timer();
+    QCOMPARE(panelTop(), 3468 - 136 * 25);
+    QCOMPARE(control("FraIdentify")->y(), Twips::toPixels(panelTop()));
+    QCOMPARE(splash.EffectTimer().interval(), 50);
+    splash.EffectTimer_Timer();
+    QCOMPARE(panelTop(), 50);
+    QCOMPARE(splash.EffectTimer().interval(), 1000);
+    QVERIFY(!IsLoaded<MDIMain>());
+
+    // The rest is left to the real timer: the splash is still there a moment later
+    // and gives way to the main frame after its second.
+    QEventLoop moment;
+    QTimer::singleShot(200, &moment, &QEventLoop::quit);
+    moment.exec();
+    QVERIFY(IsLoaded<frmIdentify>());
+    QTRY_VERIFY_WITH_TIMEOUT(!IsLoaded<frmIdentify>(), 3000);
+    verifyHandedOver();
+}
+
+void IdentifyTest::clickShortensTheSplashWhereThePanelStands()
+{
+    StartUp();
+    frmIdentify& splash = Form<frmIdentify>();
+    // Every part of the panel and the window itself shortens the splash.
+    for (const char* name : {"frmIdentify", "picAuxiliary", "Picture2", "lblID(0)", "lblID(6)", "lblID(12)"}) {
+        splash.EffectTimer().setInterval(50);
+        QWidget* target = QString(name) == "frmIdentify" ? &splash : control(name);
+        QTest::mouseClick(target, Qt::LeftButton, {}, QPoint(2, 2));
+        QCOMPARE(splash.EffectTimer().interval(), 1000);
+    }
+
+    splash.EffectTimer().setInterval(50);
+    for (int tick = 0; tick < 40; ++tick)
+        splash.EffectTimer_Timer();
+    QTest::mouseClick(control("Picture2"), Qt::LeftButton, {}, QPoint(2, 2));
+    splash.EffectTimer_Timer();
+    verifyHandedOver();
+}
+
+void IdentifyTest::aboutBoxShowsMemoryAndFramesTheIconOnHover()
+{
+    ShowMainWindow();
+    bool designState = false;
+    QString memory;
+    QStringList borders;
+    QString hint;
+    ModalAnswerer act([&](QWidget* modal) {
+        frmIdentify& about = Form<frmIdentify>();
+        designState = modal == &about && about.windowTitle() == "About..." && panelTop() == 120
+            && !about.EffectTimer().isActive();
+        memory = static_cast<QLabel*>(control("lblInfo"))->text();
+        for (const char* name : {"picLogo", "lblInfo", "picLogo", "cmdClose", "picLogo", "FraIdentify",
+                 "picLogo", "Picture2", "picLogo", "frmIdentify"}) {
+            hover(QString(name) == "frmIdentify" ? &about : control(name));
+            borders << QString::number(logoFramed());
+        }
+        hover(control("cmdClose"));
+        hint = Form<MDIMain>().statusLine();
+        // A click on the panel changes nothing visible: the box stays and no timer runs.
+        QTest::mouseClick(control("Picture2"), Qt::LeftButton, {}, QPoint(2, 2));
+        designState = designState && !about.EffectTimer().isActive() && about.isVisible();
+        QTest::mouseClick(static_cast<QPushButton*>(control("cmdClose")), Qt::LeftButton);
+    });
+    Form<MDIMain>().mnuHelpItem_Click(3);
+
+    QCOMPARE(act.count(), 1);
+    QVERIFY(designState);
+    QVERIFY(!IsLoaded<frmIdentify>());
+    QCOMPARE(borders, QStringList({"1", "0", "1", "0", "1", "0", "1", "0", "1", "0"}));
+    QVERIFY(!hint.isEmpty());
+    const QRegularExpression line("^Total physical memory: [0-9]+KB\nAvailable physical memory: [0-9.]+KB$");
+    QVERIFY2(line.match(memory).hasMatch(), qPrintable(memory));
+}
+
+void IdentifyTest::memoryLineFormat()
+{
+    // 1 TB installed, 700 GB and a half kilobyte free: beyond any 32-bit figure.
+    const MemoryStatus large = MemoryStatus::parse(
+        "MemTotal:       1073741824 kB\nMemFree:          100 kB\nMemAvailable:   734003200 kB\n");
+    QCOMPARE(large.totalBytes(), int64_t(1) << 40);
+    QCOMPARE(large.InfoCaption(),
+        QString("Total physical memory: 1073741824KB\rAvailable physical memory: 734003200KB"));
+    QCOMPARE(MemoryStatus(1024 * 1024 + 512, 734003200LL * 1024 + 512).InfoCaption(),
+        QString("Total physical memory: 1024KB\rAvailable physical memory: 734003200.5KB"));
+
+    const MemoryStatus here = MemoryStatus::current();
+    QVERIFY(here.totalBytes() > 0);
+    QVERIFY(here.availableBytes() > 0 && here.availableBytes() <= here.totalBytes());
+}
+
+QTEST_MAIN(IdentifyTest)
+#include "tst_identify.moc"
