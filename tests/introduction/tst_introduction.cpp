@@ -130,7 +130,6 @@ private slots:
     void arrowButtonsWalkTheBookAndStopAtItsEnds();
     void everyMoveRestoresTheDefaultsButGoToKeepsThem();
     void typedNumbersAreCheckedAtEveryKeystroke();
-    void aUnitChangeLeavesAnOutOfRangePageAlone();
     void collisionPagesShowTheirTextsAndCaptions();
     void liquidPagesShowTheVesselAndTheirMolecules();
     void aLiquidRunRedrawsUntilFinish();
@@ -142,7 +141,6 @@ private slots:
     void theDelayBarSetsTheTickInterval();
     void aFailedCheckSaysWhyAndBlocksTheRun();
     void clicksZoomTheGraphsAfterARun();
-    void exitDuringARunClosesTheWindow();
     void optionsOpensTheDialogOfThePage();
 
 private:
@@ -240,19 +238,13 @@ void IntroductionTest::typedNumbersAreCheckedAtEveryKeystroke()
     type(page, "3");
     QVERIFY(isBlue(page));
     QVERIFY(button(6)->isEnabled());
-}
 
-void IntroductionTest::aUnitChangeLeavesAnOutOfRangePageAlone()
-{
-    QLineEdit* unit = box("txtUnit");
-    QLineEdit* page = box("txtPage");
+    // A unit that changes straight to another leaves a page beyond its end alone:
+    // "Go To" then shows the empty title of a page that does not exist.
     type(unit, "2");
     type(page, "8");
-    QVERIFY(isBlue(page) && button(6)->isEnabled());
     type(unit, "3");
-    QVERIFY(isBlue(unit));
-    QVERIFY(isBlue(page));
-    QVERIFY(button(6)->isEnabled());
+    QVERIFY(isBlue(unit) && isBlue(page) && button(6)->isEnabled());
     button(6)->click();
     QCOMPARE(paneText(), QString());
     QVERIFY(!button(5)->isEnabled());
@@ -388,13 +380,18 @@ void IntroductionTest::hintsFollowTheControls()
     QCOMPARE(hintOf(button(5)), QString("Stop simulation"));
     button(9)->click();
     QCOMPARE(hintOf(button(8)), QString("Next snapshot of simulation process"));
-    button(5)->click();
     QTest::mouseClick(intro().findChild<QWidget*>("lblPage"), Qt::LeftButton);
     QCOMPARE(Form<MDIMain>().statusLine(), QString("Select Page"));
+
+    // "Exit" during a run closes the window; nothing of the run is kept.
+    button(9)->click();
     button(0)->click();
     QCOMPARE(Form<MDIMain>().statusLine(), QString("The Floatrixon - A modern Greek game"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!IsLoaded<frmIntroduction>());
+    Form<MDIMain>().ShowChild(&intro());
+    QCOMPARE(intro().CurrentUnit(), int16_t(1));
+    QVERIFY(!intro().Run().Timer1().isActive());
 }
 
 void IntroductionTest::aDefaultRunStopsByItselfAtTheEnd()
@@ -553,19 +550,6 @@ void IntroductionTest::clicksZoomTheGraphsAfterARun()
     // Between the panels there is nothing to enlarge.
     clickPicture(Qt::LeftButton, 4800);
     QCOMPARE(graphs.GraphZoomed, int16_t(0));
-}
-
-void IntroductionTest::exitDuringARunClosesTheWindow()
-{
-    goTo(3, 1);
-    button(5)->click();
-    intro().Run().Timer1_Timer();
-    button(0)->click();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!IsLoaded<frmIntroduction>());
-    Form<MDIMain>().ShowChild(&intro());
-    QCOMPARE(intro().CurrentUnit(), int16_t(1));
-    QVERIFY(!intro().Run().Timer1().isActive());
 }
 
 void IntroductionTest::optionsOpensTheDialogOfThePage()
