@@ -244,11 +244,6 @@ void frmMicroView::UpdateForceIndicators(float& Fleft, float& Fright, float& Fto
     m_panel.UpdateIndicators(readout.H, readout.V, picForceXIndicator->canvas(), picForceYIndicator->canvas());
 }
 
-void frmMicroView::DrawSquare(int16_t Direction, CanvasWidget* Box, float Value)
-{
-    m_panel.DrawSquare(Direction, Box->canvas(), Value);
-}
-
 void frmMicroView::DrawMacroGrid()
 {
     m_panel.DrawMacroGrid(picMacroView->canvas());

@@ -10,7 +10,6 @@
 #include <functional>
 #include <memory>
 
-class CanvasWidget;
 class Gas;
 class QScrollBar;
 class TickDriver;
@@ -60,7 +59,6 @@ private:
     void InitialiseCounters();
     void ClearHistory();
     void UpdateForceIndicators(float& Fleft, float& Fright, float& Ftop, float& Fbottom);
-    void DrawSquare(int16_t Direction, CanvasWidget* Box, float Value);
     void DrawMacroGrid();
 
     // Sets a control's value from code and runs its handler, as a user's change would.
