@@ -33,6 +33,7 @@ public:
 
     // The ticks since the last reset; 64 bits so that no run ever overflows it.
     int64_t TickCount() const { return m_TickCount; }
+    // The sums of each wall's per-tick values since the last reset.
     double SumLeft() const { return m_SumLeft; }
     double SumRight() const { return m_SumRight; }
     double SumTop() const { return m_SumTop; }

@@ -23,6 +23,7 @@ public:
 
     // A stopped timer that calls tick once per elapsed period.
     explicit TickDriver(std::function<void()> tick, QObject* parent = nullptr);
+    // Releases the timerfd.
     ~TickDriver() override;
 
     // The period in milliseconds; a running timer restarts its deadlines.

@@ -25,6 +25,7 @@ class frmMicroView : public QWidget, private MicroViewDesign
 public:
     // Loads the window: builds its controls and runs InitialiseProgram.
     frmMicroView();
+    // Stops the timer; the samples end with the window.
     ~frmMicroView() override;
 
     // One simulation step of the three samples, the statistics and the panel.
@@ -43,7 +44,9 @@ public:
     const TickDriver& simulationTimer() const { return *SimulationTimer; }
 
 protected:
+    // Keeps the window centred in the frame (Form_Resize).
     void resizeEvent(QResizeEvent* event) override;
+    // Stops the timer, so that no tick comes after the window has closed.
     void closeEvent(QCloseEvent* event) override;
 
 private:
