@@ -115,26 +115,26 @@ void frmCollisionOptions::createBodyFrame()
 
 void frmCollisionOptions::createBodyRow(int kind)
 {
-    const FieldKind& spec = Kinds[kind];
+    const FieldKind& kindInfo = Kinds[kind];
     std::array<QLabel*, 2>* labels[KindCount] = {&lblm, &lblR, &lblx, &lbly, &lblux, &lbluy};
     for (int i = 0; i < 2; ++i) {
-        QLabel* label = new QLabel(QString::fromUtf8(spec.caption), fraCollisionData);
-        label->setObjectName(indexedName(spec.label, i));
+        QLabel* label = new QLabel(QString::fromUtf8(kindInfo.caption), fraCollisionData);
+        label->setObjectName(indexedName(kindInfo.label, i));
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         FormLayout::place(label, ColumnLeft[i] - 480, RowTop[kind], 450, 285);
         StatusHints::install(label, labelHint(kind, i + 1));
         (*labels[kind])[i] = label;
 
         QLineEdit* box = new QLineEdit(fraCollisionData);
-        box->setObjectName(indexedName(spec.box, i));
+        box->setObjectName(indexedName(kindInfo.box, i));
         box->setMaxLength(3);
         FormLayout::place(box, ColumnLeft[i], RowTop[kind], 495, 285);
-        StatusHints::install(box, fieldHint(kind, i + 1, spec.max));
+        StatusHints::install(box, fieldHint(kind, i + 1, kindInfo.max));
         connect(box, &QLineEdit::textEdited, this, [this, kind, i] { RunGuarded([=, this] { Field_Change(kind, i); }); });
         field(kind, i) = box;
 
         const int unitIndex = i * KindCount + kind;
-        QLabel* unit = new QLabel(QString::fromLatin1(spec.unit), fraCollisionData);
+        QLabel* unit = new QLabel(QString::fromLatin1(kindInfo.unit), fraCollisionData);
         unit->setObjectName(indexedName("lblUnits", unitIndex));
         FormLayout::place(unit, ColumnLeft[i] + 540, RowTop[kind], 780, 285);
         StatusHints::install(unit, unitHint(unitIndex));
@@ -306,11 +306,11 @@ void frmCollisionOptions::ArrangeForPage()
 
 void frmCollisionOptions::Field_Change(int kind, int Index)
 {
-    const FieldKind& spec = Kinds[kind];
+    const FieldKind& kindInfo = Kinds[kind];
     QLineEdit* box = field(kind, Index);
     const QString text = box->text();
-    bool valid = IsValidNumber(spec.flags, text, spec.max);
-    if (valid && spec.positive)
+    bool valid = IsValidNumber(kindInfo.flags, text, kindInfo.max);
+    if (valid && kindInfo.positive)
         valid = LeadingNumber(text) > 0;
     // A mass is kept in whole kilograms: one that would round to 0 is refused too,
     // so the experiment never meets a body without mass.
