@@ -118,6 +118,8 @@ void IdentifyTest::clickShortensTheSplashWhereThePanelStands()
     for (int tick = 0; tick < 40; ++tick)
         splash.EffectTimer_Timer();
     QTest::mouseClick(control("Picture2"), Qt::LeftButton, {}, QPoint(2, 2));
+    QCOMPARE(splash.EffectTimer().interval(), 1000);
+    QCOMPARE(panelTop(), 3468 - 40 * 25); // the panel stops part-way up
     splash.EffectTimer_Timer();
     verifyHandedOver();
 }
