@@ -76,10 +76,10 @@ void TickDriver::arm()
     // however late each wake-up comes.
     timespec now{};
     clock_gettime(CLOCK_MONOTONIC, &now);
-    itimerspec spec{};
-    spec.it_value = addMilliseconds(now, m_Interval);
-    spec.it_interval = addMilliseconds(timespec{}, m_Interval);
-    timerfd_settime(m_fd, TFD_TIMER_ABSTIME, &spec, nullptr);
+    itimerspec deadlines{};
+    deadlines.it_value = addMilliseconds(now, m_Interval);
+    deadlines.it_interval = addMilliseconds(timespec{}, m_Interval);
+    timerfd_settime(m_fd, TFD_TIMER_ABSTIME, &deadlines, nullptr);
     m_notifier->setEnabled(true);
 }
 
