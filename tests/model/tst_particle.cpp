@@ -22,14 +22,22 @@ float firstRandom()
     return SharedRandom::next();
 }
 
-// A free molecule in a 1000 x 800 box (user units = pixels / 10) with the given wall.
-std::unique_ptr<Particle> freeMolecule(ImageCanvas& canvas, int16_t wall, float wallCoord)
+// A free molecule in a 1000 x 800 box (user units = pixels / 10) with the given wall,
+// target speed (written first: it pulls the speed), centre and velocity.
+std::unique_ptr<Particle> freeMolecule(ImageCanvas& canvas, int16_t wall, float wallCoord, float vmax = 0,
+                                       float x = 0, float y = 0, float vx = 0, float vy = 0)
 {
     auto m = std::make_unique<Particle>();
     m->setCanvas(&canvas);
     m->setWall(wall);
     m->setWallCoord(wallCoord);
     m->setRadius(10);
+    m->setVxmax(vmax);
+    m->setVymax(vmax);
+    m->setXcoord(x);
+    m->setYcoord(y);
+    m->setVx(vx);
+    m->setVy(vy);
     return m;
 }
 
@@ -64,9 +72,19 @@ private slots:
         ScopedRandomSequence sequence;
         Particle m;
         m.setCanvas(&canvas);
+        // A free molecule's speed is pulled one step towards a new target.
+        const std::pair<float, float> pulls[] = {{130, 117}, {-70, -77}, {120, 100}, {-80, -100}, {0, 0}};
+        for (const auto& [before, after] : pulls) {
+            m.setVx(before);
+            m.setVy(before);
+            m.setVxmax(100);
+            m.setVymax(100);
+            QCOMPARE(m.Vx(), after);
+            QCOMPARE(m.Vy(), after);
+            QCOMPARE(m.DirectionX(), int16_t((before > 0) - (before < 0)));
+        }
         m.setVxmax(40);
         m.setMass(2);
-        QCOMPARE(m.OmegaX(), 0.0f);
         QCOMPARE(m.Xo(), 2000.0f);
         QCOMPARE(m.Yo(), 1600.0f);
         QCOMPARE(m.Vxo(), 40.0f);
@@ -84,7 +102,6 @@ private slots:
 
         // A bound molecule's speed for its displacement: plain difference under the root.
         m.setVx(-3.5);
-        QCOMPARE(m.DirectionX(), int16_t(-1));
         m.setXCenter(100);
         for (int k = 0; k < 6; ++k) {
             m.setXcoord(106);
@@ -105,54 +122,22 @@ private slots:
         canvas.setBackColor(White);
     }
 
-    void freeSpeedIsPulledTowardsTheTarget()
-    {
-        Particle m;
-        m.setCanvas(&canvas);
-        const std::pair<float, float> cases[] = {{130, 117}, {-70, -77}, {120, 100}, {-80, -100}, {0, 0}};
-        for (const auto& [before, after] : cases) {
-            m.setVx(before);
-            m.setVy(before);
-            m.setVxmax(100);
-            m.setVymax(100);
-            QCOMPARE(m.Vx(), after);
-            QCOMPARE(m.Vy(), after);
-            QCOMPARE(m.DirectionX(), int16_t((before > 0) - (before < 0)));
-        }
-    }
-
     void wallsMeasureAndReflect()
     {
-        // Left wall at 100: the disc edge passes it moving left.
-        auto left = freeMolecule(canvas, 0, 100);
-        left->setVxmax(50);
-        left->setVx(-50);
-        left->setXcoord(159);
-        move(*left);
-        QCOMPARE(impulseX, -100.0f);
-        QCOMPARE(left->Vx(), 50.0f);
-        QCOMPARE(left->DirectionX(), int16_t(1));
-        QCOMPARE(impulseY, 7.0f);
-
-        // Right wall at 900, and the same molecule passes the open left side unmeasured.
-        auto right = freeMolecule(canvas, 1, 900);
-        right->setVxmax(50);
-        right->setVx(50);
-        right->setXcoord(841);
-        move(*right);
-        QCOMPARE(impulseX, 100.0f);
-        QCOMPARE(right->Vx(), -50.0f);
-        impulseX = 7;
-        right->setXcoord(30);
-        move(*right);
-        QCOMPARE(impulseX, 7.0f);
+        // Left wall at 100, right wall at 900: the disc edge passes it moving towards it.
+        const std::tuple<int16_t, float, float, float> cases[] = {{0, 100, 159, -50}, {1, 900, 841, 50}};
+        for (const auto& [wall, wallCoord, x, vx] : cases) {
+            auto m = freeMolecule(canvas, wall, wallCoord, 50, x, 0, vx);
+            move(*m);
+            QCOMPARE(impulseX, 2 * vx);
+            QCOMPARE(m->Vx(), -vx);
+            QCOMPARE(m->DirectionX(), int16_t(vx < 0 ? 1 : -1));
+            QCOMPARE(impulseY, 7.0f);
+        }
 
         // Top wall at 200, twice the equilibrium temperature: the wall halves the
         // speed, the open bottom doubles it (and regulation then trims it).
-        auto top = freeMolecule(canvas, 2, 200);
-        top->setVymax(20);
-        top->setVy(-40);
-        top->setYcoord(249);
+        auto top = freeMolecule(canvas, 2, 200, 20, 0, 249, 0, -40);
         move(*top, 1, 330, 165);
         QCOMPARE(impulseY, -80.0f);
         QCOMPARE(top->Vy(), 20.0f);
@@ -165,11 +150,11 @@ private slots:
         QCOMPARE(top->Xcoord(), r * 1000);
         QCOMPARE(impulseY, -80.0f);
 
-        top->setYcoord(249);
         top->setVy(-40);
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, move(*top, 1, 0, 165));
-        top->setYcoord(249);
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, move(*top, 1, 330, 0));
+        for (const auto& [temperature, equilibrium] : {std::pair<int16_t, int16_t>{0, 165}, {330, 0}}) {
+            top->setYcoord(249);
+            QVERIFY_THROWS_EXCEPTION(RunTimeError, move(*top, 1, temperature, equilibrium));
+        }
     }
 
     void leavingMoleculesComeBackAlongTheOpenSide()
@@ -192,13 +177,7 @@ private slots:
         };
         for (const Case& c : cases) {
             ScopedRandomSequence sequence;
-            auto m = freeMolecule(canvas, c.wall, c.wall == 2 ? 200 : 300);
-            m->setVxmax(20);
-            m->setVymax(20);
-            m->setXcoord(c.x - c.vx);
-            m->setYcoord(c.y - c.vy);
-            m->setVx(c.vx);
-            m->setVy(c.vy);
+            auto m = freeMolecule(canvas, c.wall, c.wall == 2 ? 200 : 300, 20, c.x - c.vx, c.y - c.vy, c.vx, c.vy);
             move(*m);
             QCOMPARE(m->Xcoord(), std::isnan(c.expectX) ? c.x : c.expectX);
             QCOMPARE(m->Ycoord(), std::isnan(c.expectY) ? c.y : c.expectY);
@@ -208,33 +187,31 @@ private slots:
         }
     }
 
-    void latticeSiteFollowsTheExternalForce()
+    void boundMoleculesFollowSiteAndAmplitude()
     {
-        const std::pair<float, float> cases[] = {{1, 1}, {2, -1}, {1.5f, 0}};
-        for (const auto& [kapa, shift] : cases) {
-            auto m = freeMolecule(canvas, 3, 300);
+        // The site moves one unit towards the balance of the force and the lattice's
+        // pull; in y the force is carried by every row above.
+        struct Case {
+            float kapaX;
+            int16_t row;
+            float x, y;
+        };
+        const Case cases[] = {{1, 1, 503, 400.5f}, {2, 2, 501, 402.5f}, {1.5f, 1, 502, 400.5f}};
+        for (const Case& c : cases) {
+            auto m = freeMolecule(canvas, 3, 300, 0, 500, 400);
             m->setOriginalXCenter(500);
             m->setXCenter(502);
-            m->setXcoord(500);
-            m->setLatticeKapaX(kapa);
-            m->Move(1, 3, 0, false, 300, 300, impulseX, impulseY);
-            QCOMPARE(m->XCenter(), 502 + shift);
-        }
-        // In y the force is carried by every row above.
-        for (int16_t row : {1, 2}) {
-            auto m = freeMolecule(canvas, 3, 300);
-            m->setRow(row);
+            m->setLatticeKapaX(c.kapaX);
+            m->setRow(c.row);
             m->setOriginalYCenter(400);
             m->setYCenter(401.5f);
-            m->setYcoord(400);
             m->setLatticeKapaY(1);
-            m->Move(1, 0, 1, false, 300, 300, impulseX, impulseY);
-            QCOMPARE(m->YCenter(), row == 1 ? 400.5f : 402.5f);
+            m->Move(1, 3, 1, false, 300, 300, impulseX, impulseY);
+            QCOMPARE(m->XCenter(), c.x);
+            QCOMPARE(m->YCenter(), c.y);
         }
-    }
 
-    void boundMoleculeTurnsAtItsAmplitude()
-    {
+        // A bound molecule turns at its amplitude.
         for (float d : {10.5f, 9.5f}) {
             ScopedRandomSequence sequence;
             auto m = freeMolecule(canvas, 3, 300);
@@ -256,11 +233,9 @@ private slots:
 
     void centreLineIsDrawnAndErasedWithTheDisc()
     {
-        auto m = freeMolecule(canvas, 3, 300);
+        auto m = freeMolecule(canvas, 3, 300, 0, 500, 400);
         m->setRadius(30);
         m->setColor(Red);
-        m->setXcoord(500);
-        m->setYcoord(400);
         m->setXCenter(900);
         m->setYCenter(400);
         const QImage blank = canvas.image();
