@@ -246,8 +246,7 @@ private slots:
             m->EraseYourself(line);
             QCOMPARE(canvas.image(), blank);
         }
-        Particle withoutSurface;
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, withoutSurface.setMass(1));
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, Particle().setMass(1)); // no surface to measure
     }
 };
 
