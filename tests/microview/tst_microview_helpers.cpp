@@ -11,11 +11,11 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <memory>
+
 namespace {
 
-const int32_t White = Rgb::RGB(255, 255, 255);
 const int32_t Red = Rgb::RGB(255, 0, 0);
-const int32_t Black = 0;
 
 // An indicator surface as the view designs them: pixels, red pen and solid red fill.
 ImageCanvas indicator(int width, int height)
@@ -28,11 +28,15 @@ ImageCanvas indicator(int width, int height)
     return box;
 }
 
-void spin(int milliseconds)
+// One letter per pixel: K black, W white, R red, ? anything else.
+QString colours(const ImageCanvas& canvas, std::initializer_list<QPoint> points)
 {
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
+    QString letters;
+    for (const QPoint& point : points) {
+        const int32_t colour = canvas.pixelColor(point.x(), point.y());
+        letters += colour == 0 ? 'K' : colour == Rgb::RGB(255, 255, 255) ? 'W' : colour == Red ? 'R' : '?';
+    }
+    return letters;
 }
 
 } // namespace
@@ -44,8 +48,8 @@ class MicroViewHelpersTest : public QObject
 private slots:
     void cleanup() { QCOMPARE(closeLeftoverWindows(), 0); }
     void labelsAndMeansOfSuccessiveTicks();
-    void indicatorsGrowFromTheCentre();
-    void gridShiftWrapsAndMovesTheLines();
+    void indicatorsGrowFromTheCentreAndTheGridShiftWraps();
+    void gridLinesMoveAgainstTheShift();
     void tickDriverStopsWithinAWakeUp();
 };
 
@@ -53,17 +57,11 @@ void MicroViewHelpersTest::labelsAndMeansOfSuccessiveTicks()
 {
     QLocale::setDefault(QLocale::c());
     ForceStatistics statistics;
-    ForceReadout first = statistics.UpdateForceIndicators(-12.5F, 10.25F, -3.0F, 0.0F);
-    QCOMPARE(first.CurrentLeft, QString("  Fleft = -12.5"));
-    QCOMPARE(first.CurrentRight, QString("  Fright = 10.25"));
-    QCOMPARE(first.CurrentTop, QString("  Ftop = -3.0"));
-    QCOMPARE(first.MeanLeft, QString("<Fleft> = -12.5"));
-    QCOMPARE(first.MeanRight, QString("<Fright> = 10.25"));
-    QCOMPARE(first.MeanTop, QString("<Ftop> = -3.0"));
-    QCOMPARE(first.MeanHorizontal, QString("<Fhorizontal> = -2.25"));
-    QCOMPARE(first.MeanVertical, QString("<Fvertical> = -3.0"));
-    QCOMPARE(first.H, -2.25F);
-    QCOMPARE(first.V, -3.0F);
+    const ForceReadout r = statistics.UpdateForceIndicators(-12.5F, 10.25F, -3.0F, 0.0F);
+    QCOMPARE(QStringList({r.CurrentLeft, r.CurrentRight, r.CurrentTop, r.MeanLeft, r.MeanRight, r.MeanTop,
+                 r.MeanHorizontal, r.MeanVertical}),
+        QStringList({"  Fleft = -12.5", "  Fright = 10.25", "  Ftop = -3.0", "<Fleft> = -12.5", "<Fright> = 10.25",
+            "<Ftop> = -3.0", "<Fhorizontal> = -2.25", "<Fvertical> = -3.0"}));
 
     // A quiet tick halves the means; the totals stay the sums, not the means.
     ForceReadout second = statistics.UpdateForceIndicators(0, 0, 0, 0);
@@ -71,6 +69,7 @@ void MicroViewHelpersTest::labelsAndMeansOfSuccessiveTicks()
     QCOMPARE(second.MeanLeft, QString("<Fleft> = -6.25"));
     QCOMPARE(second.MeanTop, QString("<Ftop> = -1.5"));
     QCOMPARE(second.H, -2.25F);
+    QCOMPARE(second.V, -3.0F);
 
     // Values are rounded for the labels but summed unrounded.
     statistics.InitialiseCounters();
@@ -88,7 +87,7 @@ void MicroViewHelpersTest::labelsAndMeansOfSuccessiveTicks()
     QLocale::setDefault(QLocale::c());
 }
 
-void MicroViewHelpersTest::indicatorsGrowFromTheCentre()
+void MicroViewHelpersTest::indicatorsGrowFromTheCentreAndTheGridShiftWraps()
 {
     ImageCanvas x = indicator(161, 9);
     ImageCanvas y = indicator(9, 129);
@@ -98,29 +97,20 @@ void MicroViewHelpersTest::indicatorsGrowFromTheCentre()
 
     // No force: only the black centre lines.
     panel.UpdateIndicators(0, 0, x, y);
-    QCOMPARE(x.pixelColor(80, 4), Black);
-    QCOMPARE(x.pixelColor(60, 4), White);
-    QCOMPARE(y.pixelColor(4, 64), Black);
-    QCOMPARE(y.pixelColor(4, 40), White);
+    QCOMPARE(colours(x, {{80, 4}, {60, 4}}) + colours(y, {{4, 64}, {4, 40}}), QString("KWKW"));
 
     // A first left total sets the scale to twice its size: a quarter bar on the left.
     panel.setIndicatorScaleY(0);
     panel.UpdateIndicators(-50, 0, x, y);
     QCOMPARE(panel.IndicatorScaleX(), 100.0F);
-    QCOMPARE(x.pixelColor(60, 4), Red);
-    QCOMPARE(x.pixelColor(30, 4), White);
-    QCOMPARE(x.pixelColor(100, 4), White);
+    QCOMPARE(colours(x, {{60, 4}, {30, 4}, {100, 4}}), QString("RWW"));
 
     // A smaller total keeps the scale and gives a shorter bar; the top wall's
     // negative total makes the vertical bar rise from the centre.
     panel.UpdateIndicators(25, -40, x, y);
     QCOMPARE(panel.IndicatorScaleX(), 100.0F);
     QCOMPARE(panel.IndicatorScaleY(), 80.0F);
-    QCOMPARE(x.pixelColor(90, 4), Red);
-    QCOMPARE(x.pixelColor(110, 4), White);
-    QCOMPARE(x.pixelColor(60, 4), White);
-    QCOMPARE(y.pixelColor(4, 45), Red);
-    QCOMPARE(y.pixelColor(4, 80), White);
+    QCOMPARE(colours(x, {{90, 4}, {110, 4}, {60, 4}}) + colours(y, {{4, 45}, {4, 80}}), QString("RWWRW"));
 
     // A zero scale (cleared history) freezes an indicator until a non-zero total
     // sets the new scale.
@@ -132,61 +122,51 @@ void MicroViewHelpersTest::indicatorsGrowFromTheCentre()
     QCOMPARE(x.image(), xBefore);
     panel.UpdateIndicators(-10, 0, x, y);
     QCOMPARE(panel.IndicatorScaleX(), 20.0F);
-    QCOMPARE(panel.IndicatorScaleY(), 0.0F);
     QVERIFY(x.image() != xBefore);
     QCOMPARE(y.image(), yBefore);
-}
 
-void MicroViewHelpersTest::gridShiftWrapsAndMovesTheLines()
-{
-    ImageCanvas x = indicator(161, 9);
-    ImageCanvas y = indicator(9, 129);
-    MacroPanel panel;
+    // A total shifts the grid by a ten-thousandth of itself, wrapped to one grid
+    // period however large the step.
     panel.setGridOffsetX(199.99F);
     panel.setGridOffsetY(-199.99F);
     panel.UpdateIndicators(200, -200, x, y);
     QCOMPARE(panel.GridOffsetX(), 0.0F);
     QCOMPARE(panel.GridOffsetY(), 200.0F);
-    // However large the step, the shift stays within one grid period.
     panel.UpdateIndicators(-5e7F, 5e7F, x, y);
     QVERIFY(panel.GridOffsetX() >= -200 && panel.GridOffsetX() <= 200);
     QVERIFY(panel.GridOffsetY() >= -200 && panel.GridOffsetY() <= 200);
+}
 
+void MicroViewHelpersTest::gridLinesMoveAgainstTheShift()
+{
     // The panel in twips: lines every 200 twips (13.3 pixels), moved against the shift.
     ImageCanvas picture(161, 129);
     picture.setScale(0, 0, 2415, 1935);
-    MacroPanel still;
-    still.DrawMacroGrid(picture);
-    QCOMPARE(picture.pixelColor(13, 50), Black);
-    QCOMPARE(picture.pixelColor(10, 50), White);
-    QCOMPARE(picture.pixelColor(45, 13), Black);
-    MacroPanel moved;
-    moved.setGridOffsetX(50);
-    moved.setGridOffsetY(-100);
-    moved.DrawMacroGrid(picture);
-    QCOMPARE(picture.pixelColor(10, 50), Black);
-    QCOMPARE(picture.pixelColor(13, 50), White);
-    QCOMPARE(picture.pixelColor(45, 20), Black);
-    QCOMPARE(picture.pixelColor(45, 13), White);
+    MacroPanel grid;
+    grid.DrawMacroGrid(picture);
+    QCOMPARE(colours(picture, {{13, 50}, {10, 50}, {45, 13}}), QString("KWK"));
+    grid.setGridOffsetX(50);
+    grid.setGridOffsetY(-100);
+    grid.DrawMacroGrid(picture);
+    QCOMPARE(colours(picture, {{10, 50}, {13, 50}, {45, 20}, {45, 13}}), QString("KWKW"));
 }
 
 void MicroViewHelpersTest::tickDriverStopsWithinAWakeUp()
 {
     // A tick that stops the timer is the last one, even within a catch-up batch.
     int ticks = 0;
-    TickDriver* driver = nullptr;
-    TickDriver timer([&] {
+    std::unique_ptr<TickDriver> timer;
+    timer = std::make_unique<TickDriver>([&] {
         if (++ticks % 3 == 0)
-            driver->setEnabled(false);
+            timer->setEnabled(false);
     });
-    driver = &timer;
-    spin(20);
-    QCOMPARE(ticks, 0);
-    timer.setEnabled(true);
+    timer->setEnabled(true);
     QTRY_COMPARE_WITH_TIMEOUT(ticks, 3, 2000);
-    spin(30);
+    QEventLoop later;
+    QTimer::singleShot(30, &later, &QEventLoop::quit);
+    later.exec();
     QCOMPARE(ticks, 3);
-    timer.setEnabled(true);
+    timer->setEnabled(true);
     QTRY_COMPARE_WITH_TIMEOUT(ticks, 6, 2000);
 }
 
