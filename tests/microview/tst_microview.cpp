@@ -66,12 +66,6 @@ bool allSamples(const std::function<bool(const Gas&)>& condition)
     return condition(*view().sample(0)) && condition(*view().sample(1)) && condition(*view().sample(2));
 }
 
-// A number in a force label, after its prefix.
-QString figure(const char* label)
-{
-    return text(label).section(" = ", 1);
-}
-
 } // namespace
 
 class MicroViewTest : public QObject
@@ -190,10 +184,10 @@ void MicroViewTest::simulatePauseRestartClearAndFault()
         {"lblFyMeanTotal", "<Fvertical>"}};
     for (const auto& [label, prefix] : prefixes)
         QCOMPARE(text(label).section(" = ", 0, 0), prefix);
-    QCOMPARE(figure("lblMeanFx(0)"), figure("lblCurrentFx(0)"));
-    QCOMPARE(figure("lblMeanFx(1)"), figure("lblCurrentFx(1)"));
-    QCOMPARE(figure("lblMeanFy"), figure("lblCurrentFy"));
-    QCOMPARE(figure("lblFyMeanTotal"), figure("lblCurrentFy"));
+    for (const auto& [mean, current] : {std::pair("lblMeanFx(0)", "lblCurrentFx(0)"),
+             std::pair("lblMeanFx(1)", "lblCurrentFx(1)"), std::pair("lblMeanFy", "lblCurrentFy"),
+             std::pair("lblFyMeanTotal", "lblCurrentFy")})
+        QCOMPARE(text(mean).section(" = ", 1), text(current).section(" = ", 1));
 
     // Each sample reports its own wall only: the left and top impulses are never
     // positive, the right ones never negative.
