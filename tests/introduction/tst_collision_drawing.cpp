@@ -64,47 +64,29 @@ struct CollisionRig
         graphs.DrawGraphFrames(canvas, graphs.GraphCount);
     }
 
-    // One tick; true when the run has reached its end.
-    bool tick()
-    {
-        scene.DrawBodies(canvas, setup, state, page);
-        state.SimulationTime += state.TimeStep;
-        for (int16_t i = 1; i <= 2; ++i) {
-            scene.BodyScreenX[i] = scene.ScreenX(state.BodyState(1, 1, i, state.SimulationTime));
-            if (page == AboveView)
-                scene.BodyScreenY[i] = scene.ScreenY(state.BodyState(2, 1, i, state.SimulationTime));
-        }
-        scene.DrawBodies(canvas, setup, state, page);
-        graphs.DrawGraphStep(canvas, setup, state);
-        return 2 * state.ContactStart <= state.SimulationTime;
-    }
-
+    // Ticks until the run reaches its end; returns how many it took.
     int run()
     {
         start();
-        int ticks = 1;
-        while (!tick() && ticks < 200)
+        int ticks = 0;
+        do {
             ++ticks;
+            scene.DrawBodies(canvas, setup, state, page);
+            state.SimulationTime += state.TimeStep;
+            for (int16_t i = 1; i <= 2; ++i) {
+                scene.BodyScreenX[i] = scene.ScreenX(state.BodyState(1, 1, i, state.SimulationTime));
+                if (page == AboveView)
+                    scene.BodyScreenY[i] = scene.ScreenY(state.BodyState(2, 1, i, state.SimulationTime));
+            }
+            scene.DrawBodies(canvas, setup, state, page);
+            graphs.DrawGraphStep(canvas, setup, state);
+        } while (ticks < 200 && state.SimulationTime < 2 * state.ContactStart);
         return ticks;
     }
 
     int32_t shown(float x, float y) const
     {
         return canvas.pixelColor(int32_t(canvas.toDeviceX(x)), int32_t(canvas.toDeviceY(y)));
-    }
-
-    // The first and last device columns of a picture row that are not background.
-    std::pair<int, int> inkedColumns(float y) const
-    {
-        const int row = int(canvas.toDeviceY(y));
-        int first = -1, last = -1;
-        for (int x = 0; x < canvas.DeviceWidth(); ++x) {
-            if (canvas.pixelColor(x, row) == White)
-                continue;
-            first = first < 0 ? x : first;
-            last = x;
-        }
-        return {first, last};
     }
 };
 
@@ -117,10 +99,9 @@ class tst_collision_drawing : public QObject
 private slots:
     void cleanup() { QCOMPARE(closeLeftoverWindows(), 0); }
     void runErasesEverythingItMoves();
-    void defaultSideViewPicture();
-    void arrowsScaleToTheLargestValue();
-    void zeroScalesAndRangesDrawNothing();
-    void graphPanelsAndProportionalAxes();
+    void defaultSideViewPictureAndGraphPanels();
+    void arrowsScaleToTheLargestValueAndZeroDrawsNothing();
+    void zeroRangesDrawNothing();
     void contactZoom();
 };
 
@@ -151,9 +132,9 @@ void tst_collision_drawing::runErasesEverythingItMoves()
     }
 }
 
-void tst_collision_drawing::defaultSideViewPicture()
+void tst_collision_drawing::defaultSideViewPictureAndGraphPanels()
 {
-    CollisionRig rig;
+    CollisionRig rig(CollisionSetup::ContinuousForce);
     rig.setUpPage(SideView);
     const CollisionScene& s = rig.scene;
     // World x -10 to 334 and y -10 to 10 fill the picture; the bodies rest on the ground.
@@ -174,67 +155,7 @@ void tst_collision_drawing::defaultSideViewPicture()
     rig.setup.ShowForces = 0;
     rig.scene.DrawCollisionScene(rig.canvas, rig.setup, rig.state, SideView);
     QCOMPARE(rig.canvas.image(), withForces);
-}
 
-void tst_collision_drawing::arrowsScaleToTheLargestValue()
-{
-    CollisionRig rig;
-    ImageCanvas& c = rig.canvas;
-    for (const auto& [value, length] : {std::pair{100.0f, 250.0f}, std::pair{50.0f, 125.0f}}) {
-        c.Cls();
-        rig.scene.DrawArrow(c, 1, 1000, 1500, 133, 100, value, Red ^ White);
-        const auto [first, last] = rig.inkedColumns(1500);
-        QCOMPARE(first, int(c.toDeviceX(1000)));
-        QVERIFY(std::abs(last - int(c.toDeviceX(1000 + length))) <= 1);
-        QCOMPARE(rig.shown(1000 + length - 25, 1500 - 25), Red); // a barb
-    }
-    c.Cls();
-    rig.scene.DrawArrow(c, 2, 1000, 1500, 133, 100, -100, Red ^ White);
-    QCOMPARE(rig.shown(1000, 1700), Red); // a negative y value points down
-    QCOMPARE(rig.shown(1000, 1300), White);
-}
-
-void tst_collision_drawing::zeroScalesAndRangesDrawNothing()
-{
-    CollisionRig rig(CollisionSetup::ContinuousVelocity);
-    rig.setUpPage(SideView);
-    ImageCanvas& c = rig.canvas;
-    c.Cls();
-    const QImage blank = c.image();
-    rig.scene.DrawArrow(c, 1, 1000, 1500, 133, 0, 100, Red);
-    rig.scene.DrawArrow(c, 2, 1000, 1500, 133, 100, 0, Red);
-    QCOMPARE(c.image(), blank);
-
-    // Before the contact the force is 0 throughout: no value range, nothing drawn.
-    CollisionGraphs& g = rig.graphs;
-    rig.start();
-    g.GraphRange(rig.setup, rig.state, 3, CollisionState::Force, 0, rig.state.ContactStart / 2);
-    QCOMPARE(g.GraphValueMin[3], 0.0f);
-    QCOMPARE(g.GraphValueMax[3], 0.0f);
-    g.GraphXFactor[1] = g.GraphXFactor[2] = 0;
-    c.Cls();
-    g.RedrawGraphs(c, rig.setup, rig.state);
-    QCOMPARE(c.image(), blank);
-
-    // Kept proportional, the empty range opens up about 0 and can be drawn.
-    rig.setup.ProportionalGraphs = 1;
-    g.GraphRange(rig.setup, rig.state, 3, CollisionState::Force, 0, rig.state.ContactStart / 2);
-    QVERIFY(g.GraphDrawable(3));
-    QCOMPARE(g.GraphShownValueMin[3], -g.GraphShownValueMax[3]);
-
-    // Bodies without mass swap velocities under no force: no scale, and nothing fails.
-    CollisionRig massless(CollisionSetup::ContinuousForce);
-    massless.setup.Mass = {0, 0};
-    QCOMPARE(massless.setUpPage(SideView), CollisionState::CodeReady);
-    QCOMPARE(massless.run(), 100);
-    QNEAR(massless.state.FinalVx[1], 50, 1e-4);
-    QVERIFY(!massless.graphs.GraphDrawable(3));
-}
-
-void tst_collision_drawing::graphPanelsAndProportionalAxes()
-{
-    CollisionRig rig(CollisionSetup::ContinuousForce);
-    rig.setUpPage(SideView);
     CollisionGraphs& g = rig.graphs;
     QCOMPARE(g.GraphCount, int16_t(3));
     const float quarter = 4935 / 4.0f;
@@ -271,6 +192,70 @@ void tst_collision_drawing::graphPanelsAndProportionalAxes()
 
     rig.setUpPage(AboveView);
     QCOMPARE(g.GraphCount, int16_t(0));
+}
+
+void tst_collision_drawing::arrowsScaleToTheLargestValueAndZeroDrawsNothing()
+{
+    CollisionRig rig;
+    ImageCanvas& c = rig.canvas;
+    for (const auto& [value, length] : {std::pair{100.0f, 250.0f}, std::pair{50.0f, 125.0f}}) {
+        c.Cls();
+        rig.scene.DrawArrow(c, 1, 1000, 1500, 133, 100, value, Red ^ White);
+        // The first and last inked columns of the shaft's row.
+        int first = -1, last = -1;
+        for (int x = 0; x < c.DeviceWidth(); ++x)
+            if (c.pixelColor(x, int(c.toDeviceY(1500))) != White) {
+                first = first < 0 ? x : first;
+                last = x;
+            }
+        QCOMPARE(first, int(c.toDeviceX(1000)));
+        QVERIFY(std::abs(last - int(c.toDeviceX(1000 + length))) <= 1);
+        QCOMPARE(rig.shown(1000 + length - 25, 1500 - 25), Red); // a barb
+    }
+    c.Cls();
+    rig.scene.DrawArrow(c, 2, 1000, 1500, 133, 100, -100, Red ^ White);
+    QCOMPARE(rig.shown(1000, 1700), Red); // a negative y value points down
+    QCOMPARE(rig.shown(1000, 1300), White);
+    // A zero scale or value draws nothing.
+    c.Cls();
+    const QImage blank = c.image();
+    rig.scene.DrawArrow(c, 1, 1000, 1500, 133, 0, 100, Red);
+    rig.scene.DrawArrow(c, 2, 1000, 1500, 133, 100, 0, Red);
+    QCOMPARE(c.image(), blank);
+}
+
+void tst_collision_drawing::zeroRangesDrawNothing()
+{
+    CollisionRig rig(CollisionSetup::ContinuousVelocity);
+    rig.setUpPage(SideView);
+    ImageCanvas& c = rig.canvas;
+    c.Cls();
+    const QImage blank = c.image();
+
+    // Before the contact the force is 0 throughout: no value range, nothing drawn.
+    CollisionGraphs& g = rig.graphs;
+    rig.start();
+    g.GraphRange(rig.setup, rig.state, 3, CollisionState::Force, 0, rig.state.ContactStart / 2);
+    QCOMPARE(g.GraphValueMin[3], 0.0f);
+    QCOMPARE(g.GraphValueMax[3], 0.0f);
+    g.GraphXFactor[1] = g.GraphXFactor[2] = 0;
+    c.Cls();
+    g.RedrawGraphs(c, rig.setup, rig.state);
+    QCOMPARE(c.image(), blank);
+
+    // Kept proportional, the empty range opens up about 0 and can be drawn.
+    rig.setup.ProportionalGraphs = 1;
+    g.GraphRange(rig.setup, rig.state, 3, CollisionState::Force, 0, rig.state.ContactStart / 2);
+    QVERIFY(g.GraphDrawable(3));
+    QCOMPARE(g.GraphShownValueMin[3], -g.GraphShownValueMax[3]);
+
+    // Bodies without mass swap velocities under no force: no scale, and nothing fails.
+    CollisionRig massless(CollisionSetup::ContinuousForce);
+    massless.setup.Mass = {0, 0};
+    QCOMPARE(massless.setUpPage(SideView), CollisionState::CodeReady);
+    QCOMPARE(massless.run(), 100);
+    QNEAR(massless.state.FinalVx[1], 50, 1e-4);
+    QVERIFY(!massless.graphs.GraphDrawable(3));
 }
 
 void tst_collision_drawing::contactZoom()

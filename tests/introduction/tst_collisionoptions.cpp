@@ -113,9 +113,9 @@ void CollisionOptionsTest::cleanup()
 void CollisionOptionsTest::loadsTheRecordWithPlainColoursAndHints()
 {
     open(2);
-    QCOMPARE(dialog().windowTitle(), QString("Παράμετροι Ελαστικής Κρούσης"));
     QCOMPARE(boxTexts(), QString("10 15 10 10 0 100 0 0 100 50 0 0"));
-    const int32_t plain[] = {Rgb::RGB(80, 255, 80), Rgb::RGB(255, 255, 80), Rgb::RGB(255, 255, 175), Rgb::RGB(255, 0, 0)};
+    const int32_t plain[] = {
+        Rgb::RGB(80, 255, 80), Rgb::RGB(255, 255, 80), Rgb::RGB(255, 255, 175), Rgb::RGB(255, 0, 0)};
     for (int i = 0; i < 4; ++i)
         QCOMPARE(swatch(i), plain[i]);
     QVERIFY(command(0)->isEnabled());

@@ -70,7 +70,9 @@ QString entryState()
     QString state;
     for (const char* name : {"txtUnit", "txtPage"}) {
         const int32_t colour = OptionsWidgets::textColor(box(name));
-        state += colour == OptionsWidgets::ValidTextColor ? 'B' : colour == OptionsWidgets::InvalidTextColor ? 'G' : '?';
+        state += colour == OptionsWidgets::ValidTextColor     ? 'B'
+                 : colour == OptionsWidgets::InvalidTextColor ? 'G'
+                                                              : '?';
     }
     return state + (button(6)->isEnabled() ? '+' : '-');
 }
@@ -175,7 +177,8 @@ void IntroductionTest::arrowButtonsWalkTheBookAndRestoreTheDefaults()
         button(move.index)->click();
         const QString where = QString("from %1/%2 by %3").arg(move.fromUnit).arg(move.fromPage).arg(move.index);
         QVERIFY2(intro().CurrentUnit() == move.toUnit && intro().CurrentPage() == move.toPage, qPrintable(where));
-        QCOMPARE(box("txtUnit")->text() + "/" + box("txtPage")->text(), QString("%1/%2").arg(move.toUnit).arg(move.toPage));
+        const QString boxes = box("txtUnit")->text() + "/" + box("txtPage")->text();
+        QCOMPARE(boxes, QString("%1/%2").arg(move.toUnit).arg(move.toPage));
         const bool moved = move.toUnit != move.fromUnit || move.toPage != move.fromPage;
         QVERIFY2(setup.Mass[1] == (moved ? 10 : 3) && fluid.FluidRows == (moved ? 6 : 2), qPrintable(where));
     }

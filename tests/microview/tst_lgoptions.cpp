@@ -43,6 +43,11 @@ void type(const char* name, const QString& text)
     QTest::keyClicks(edit, text);
 }
 
+QString text(const char* name)
+{
+    return control<QLineEdit>(name)->text();
+}
+
 int32_t textColor(const char* name)
 {
     return OptionsWidgets::textColor(control<QLineEdit>(name));
@@ -71,11 +76,8 @@ class LGOptionsTest : public QObject
 private slots:
     void init();
     void cleanup();
-    void rowsAndColumnsAreCheckedAgainstTheirLimits();
-    void okStoresTheTypedValues();
-    void defaultValuesRefillTheControlsOnly();
+    void okStoresRowsAndColumnsWithinTheirLimitsAndTheChosenColours();
     void pageEightMovesTheButtonsUp();
-    void theChooserKeepsTheColourItLastReturned();
 };
 
 void LGOptionsTest::init()
@@ -91,55 +93,18 @@ void LGOptionsTest::cleanup()
     QVERIFY(!IsLoaded<frmLGOptions>());
 }
 
-void LGOptionsTest::rowsAndColumnsAreCheckedAgainstTheirLimits()
+void LGOptionsTest::okStoresRowsAndColumnsWithinTheirLimitsAndTheChosenColours()
 {
-    open(6);
-    QCOMPARE(dialog().windowTitle(), QString("Parameters of Gas Molecules"));
-    QCOMPARE(control<QLineEdit>("txtNoOfRows")->text(), QString("6"));
-    QCOMPARE(textColor("txtNoOfRows"), Blue);
-    type("txtNoOfRows", "7");
-    QCOMPARE(textColor("txtNoOfRows"), Grey);
-    QVERIFY(!command(0)->isEnabled());
-    type("txtNoOfColumns", "12");
-    QCOMPARE(textColor("txtNoOfColumns"), Grey);
-    type("txtNoOfRows", "6");
-    QCOMPARE(textColor("txtNoOfRows"), Blue);
-    QVERIFY(!command(0)->isEnabled()); // the columns are still refused
-    type("txtNoOfColumns", "0");
-    QCOMPARE(textColor("txtNoOfColumns"), Blue);
-    QVERIFY(command(0)->isEnabled());
-    for (const char* refused : {"-1", "2.", "x", "1234"}) {
-        type("txtNoOfColumns", refused);
-        QVERIFY2(!command(0)->isEnabled(), refused);
-    }
-    QCOMPARE(control<QLineEdit>("txtNoOfColumns")->text(), QString("123"));
-    QVERIFY(command(1)->isEnabled() && command(2)->isEnabled());
-}
-
-void LGOptionsTest::okStoresTheTypedValues()
-{
-    open(6);
-    type("txtNoOfRows", "3");
-    type("txtNoOfColumns", " 4");
-    command(0)->click();
-    QVERIFY(!IsLoaded<frmLGOptions>());
-    QCOMPARE(FluidParameters::shared().FluidRows, int16_t(3));
-    QCOMPARE(FluidParameters::shared().FluidColumns, int16_t(4));
-    QCOMPARE(FluidParameters::shared().FluidGroupColor[1], float(Rgb::RGB(255, 0, 0)));
-    QVERIFY(FluidParameters::shared().LiquidSurface3D);
-}
-
-void LGOptionsTest::defaultValuesRefillTheControlsOnly()
-{
+    // Default values refill the controls only: Cancel leaves the record as it was.
     FluidParameters& fluid = FluidParameters::shared();
     fluid.FluidRows = 2;
     fluid.FluidGroupColor[2] = Rgb::RGB(0, 255, 0);
     open(6);
+    QCOMPARE(text("txtNoOfRows") + text("txtNoOfColumns"), QString("25"));
     QCOMPARE(swatch(1), Rgb::RGB(0, 255, 0));
     type("txtNoOfColumns", "9");
     command(2)->click();
-    QCOMPARE(control<QLineEdit>("txtNoOfRows")->text(), QString("6"));
-    QCOMPARE(control<QLineEdit>("txtNoOfColumns")->text(), QString("5"));
+    QCOMPARE(text("txtNoOfRows") + text("txtNoOfColumns"), QString("65"));
     QCOMPARE(textColor("txtNoOfColumns"), Blue);
     QVERIFY(command(0)->isEnabled());
     QCOMPARE(swatch(0), Rgb::RGB(255, 0, 0));
@@ -147,41 +112,58 @@ void LGOptionsTest::defaultValuesRefillTheControlsOnly()
     command(1)->click();
     QCOMPARE(fluid.FluidRows, int16_t(2));
     QCOMPARE(fluid.FluidGroupColor[2], float(Rgb::RGB(0, 255, 0)));
+
+    open(6);
+    // Typed one after another: the box's colour, then whether Ok can be clicked.
+    const std::tuple<const char*, const char*, int32_t, bool> typed[] = {{"txtNoOfRows", "7", Grey, false},
+        {"txtNoOfColumns", "12", Grey, false}, {"txtNoOfRows", "6", Blue, false}, // the columns are still refused
+        {"txtNoOfColumns", "0", Blue, true}, {"txtNoOfColumns", "-1", Grey, false},
+        {"txtNoOfColumns", "2.", Grey, false}, {"txtNoOfColumns", "x", Grey, false},
+        {"txtNoOfColumns", "1234", Grey, false}};
+    for (const auto& [name, typedText, colour, ok] : typed) {
+        type(name, typedText);
+        QVERIFY2(textColor(name) == colour && command(0)->isEnabled() == ok, typedText);
+    }
+    QCOMPARE(text("txtNoOfColumns"), QString("123"));
+    QVERIFY(command(1)->isEnabled() && command(2)->isEnabled());
+
+    // The chooser keeps the colour it last returned, also when it is cancelled.
+    bool choose = true;
+    ModalAnswerer answerer([&](QWidget* modal) {
+        auto* chooser = static_cast<QColorDialog*>(modal);
+        chooser->setCurrentColor(choose ? QColor(0, 200, 0) : QColor(9, 9, 9));
+        choose ? chooser->accept() : chooser->reject();
+    });
+    control<QPushButton>("cmdColorSelection(0)")->click();
+    QCOMPARE(swatch(0), Rgb::RGB(0, 200, 0));
+    choose = false;
+    QTest::mouseClick(control("lblColorSelection(1)"), Qt::LeftButton);
+    QCOMPARE(swatch(1), Rgb::RGB(0, 200, 0));
+
+    type("txtNoOfRows", "3");
+    type("txtNoOfColumns", " 4");
+    command(0)->click();
+    QVERIFY(!IsLoaded<frmLGOptions>());
+    QCOMPARE(fluid.FluidRows, int16_t(3));
+    QCOMPARE(fluid.FluidColumns, int16_t(4));
+    QCOMPARE(fluid.FluidGroupColor[1], float(Rgb::RGB(0, 200, 0)));
+    QCOMPARE(fluid.FluidGroupColor[2], float(Rgb::RGB(0, 200, 0)));
+    QVERIFY(fluid.LiquidSurface3D);
 }
 
 void LGOptionsTest::pageEightMovesTheButtonsUp()
 {
+    // Ok, Cancel and Default values go up by the switch's place, and the window with them.
+    auto heights = [] { return QList<int>{command(0)->y(), command(1)->y(), command(2)->y(), dialog().height()}; };
     open(6);
-    const int okTop = command(0)->y();
-    const int defaultsTop = command(2)->y();
-    const int height = dialog().height();
+    QList<int> lifted = heights();
     Unload<frmLGOptions>();
     open(8);
-    const int lift = Twips::toPixels(480);
-    QCOMPARE(command(0)->y(), okTop - lift);
-    QCOMPARE(command(1)->y(), okTop - lift);
-    QCOMPARE(command(2)->y(), defaultsTop - lift);
-    QCOMPARE(dialog().height(), height - lift);
+    for (int& height : lifted)
+        height -= Twips::toPixels(480);
+    QCOMPARE(heights(), lifted);
     const QRect surfaceSwitch = control("chk3DLiquidSurface")->geometry().translated(control("fraOptions")->pos());
     QVERIFY(command(2)->geometry().intersects(surfaceSwitch));
-}
-
-void LGOptionsTest::theChooserKeepsTheColourItLastReturned()
-{
-    open(6);
-    bool choose = true;
-    ModalAnswerer answerer([&](QWidget* modal) {
-        auto* chooser = static_cast<QColorDialog*>(modal);
-        chooser->setCurrentColor(choose ? QColor(0, 255, 0) : QColor(9, 9, 9));
-        choose ? chooser->accept() : chooser->reject();
-    });
-    control<QPushButton>("cmdColorSelection(0)")->click();
-    QCOMPARE(swatch(0), Rgb::RGB(0, 255, 0));
-    choose = false;
-    QTest::mouseClick(control("lblColorSelection(1)"), Qt::LeftButton);
-    QCOMPARE(swatch(1), Rgb::RGB(0, 255, 0));
-    command(0)->click();
-    QCOMPARE(FluidParameters::shared().FluidGroupColor[2], float(Rgb::RGB(0, 255, 0)));
 }
 
 QTEST_MAIN(LGOptionsTest)
