@@ -62,6 +62,13 @@ Particle& Gas::missingMolecule(int16_t i) const
     throw objectNotSet();
 }
 
+template <typename Action>
+void Gas::ForEachMolecule(Action action)
+{
+    for (int16_t i = 1; i <= m_NoOfMolecules; ++i)
+        action(Molecule(i));
+}
+
 void Gas::InitialiseParticles()
 {
     if (m_NoOfMolecules == 0)
@@ -170,12 +177,11 @@ void Gas::setColumnsOfMolecules(int16_t value)
 void Gas::setRadius(int16_t value)
 {
     m_radius = value;
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i) {
-        Particle& molecule = Molecule(i);
+    ForEachMolecule([&](Particle& molecule) {
         molecule.EraseYourself(m_DrawCenterLine);
         molecule.setRadius(value);
         molecule.DrawYourself(m_DrawCenterLine);
-    }
+    });
 }
 
 void Gas::setLeaveTrail(bool value)
@@ -193,22 +199,19 @@ void Gas::setLeaveTrail(bool value)
 void Gas::setMoleculesMass(int16_t value)
 {
     m_MoleculesMass = value;
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i)
-        Molecule(i).setMass(value);
+    ForEachMolecule([&](Particle& molecule) { molecule.setMass(value); });
 }
 
 void Gas::setMoleculesKapaX(int16_t value)
 {
     m_MoleculesKapaX = value;
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i)
-        Molecule(i).setKapaX(value);
+    ForEachMolecule([&](Particle& molecule) { molecule.setKapaX(value); });
 }
 
 void Gas::setMoleculesKapaY(int16_t value)
 {
     m_MoleculesKapaY = value;
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i)
-        Molecule(i).setKapaY(value);
+    ForEachMolecule([&](Particle& molecule) { molecule.setKapaY(value); });
 }
 
 void Gas::DestroyMolecules()
@@ -222,15 +225,13 @@ void Gas::DestroyMolecules()
 void Gas::setLatticeKapaX(int16_t value)
 {
     m_LatticeKapaX = value;
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i)
-        Molecule(i).setLatticeKapaX(value);
+    ForEachMolecule([&](Particle& molecule) { molecule.setLatticeKapaX(value); });
 }
 
 void Gas::setLatticeKapaY(int16_t value)
 {
     m_LatticeKapaY = value;
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i)
-        Molecule(i).setLatticeKapaY(value);
+    ForEachMolecule([&](Particle& molecule) { molecule.setLatticeKapaY(value); });
 }
 
 void Gas::setRandomDrawColor(bool value)
@@ -267,8 +268,7 @@ void Gas::DrawGas()
     surface.setDrawWidth(2);
     DrawWall();
     surface.setDrawWidth(1);
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i)
-        Molecule(i).DrawYourself(m_DrawCenterLine);
+    ForEachMolecule([&](Particle& molecule) { molecule.DrawYourself(m_DrawCenterLine); });
 }
 
 // The grey box is the solid side of the wall, the black segment its face towards
@@ -344,18 +344,16 @@ void Gas::DrawGrid()
     }
     const float yEnd = ST + SH;
     surface.setDrawMode(Canvas::CopyPen);
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i) {
-        const Particle& molecule = Molecule(i);
+    ForEachMolecule([&](const Particle& molecule) {
         surface.Line(molecule.XCenter(), yStart, molecule.XCenter(), yEnd, Black);
         surface.Line(xStart, molecule.YCenter(), xEnd, molecule.YCenter(), Black);
-    }
+    });
     surface.setDrawMode(Canvas::XorPen);
 }
 
 void Gas::ApplyDrawingStyle()
 {
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i) {
-        Particle& molecule = Molecule(i);
+    ForEachMolecule([&](Particle& molecule) {
         if (m_RandomDrawColor) {
             const int red = int(std::floor(255 * SharedRandom::next()));
             const int green = int(std::floor(255 * SharedRandom::next()));
@@ -366,7 +364,7 @@ void Gas::ApplyDrawingStyle()
         }
         molecule.setFillStyle(m_FilledMolecules ? Canvas::Solid : Canvas::Transparent);
         molecule.setLeaveTrail(m_LeaveTrail);
-    }
+    });
 }
 
 void Gas::HandleObservedMolecule()
@@ -419,11 +417,10 @@ void Gas::SetMaxV(int16_t value)
 
 void Gas::ApplyMaxV()
 {
-    for (int16_t i = 1; i <= m_NoOfMolecules; ++i) {
-        Particle& molecule = Molecule(i);
+    ForEachMolecule([&](Particle& molecule) {
         molecule.setVxmax(m_MaxV);
         molecule.setVymax(m_MaxV);
-    }
+    });
 }
 
 void Gas::CheckPhaseChange()
@@ -454,10 +451,8 @@ void Gas::UpdatePhase()
         flux = 90;
     else if (m_Temperature <= m_LiquidGasTemperature)
         flux = 70;
-    if (flux != 0) {
-        for (int16_t i = 1; i <= m_NoOfMolecules; ++i)
-            Molecule(i).setFluxProbability(flux);
-    }
+    if (flux != 0)
+        ForEachMolecule([&](Particle& molecule) { molecule.setFluxProbability(flux); });
 }
 
 // Time step --------------------------------------------------------------------

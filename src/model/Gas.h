@@ -192,6 +192,9 @@ public:
 
 private:
     [[noreturn]] Particle& missingMolecule(int16_t i) const;
+    // Calls action(Molecule(i)) for i = 1 to NoOfMolecules, in that order.
+    template <typename Action>
+    void ForEachMolecule(Action action);
     Canvas& canvas() const;
     void CreateMolecule(int16_t c, int16_t r, int16_t k);
     void PlaceOnLattice(Particle& molecule, int16_t c, int16_t r);
