@@ -5,6 +5,7 @@
 #include "canvas/CanvasWidget.h"
 #include "canvas/Rgb.h"
 #include "core/Twips.h"
+#include "introduction/OptionsWidgets.h"
 #include "shell/FormLayout.h"
 
 #include <QCheckBox>
@@ -18,16 +19,12 @@
 
 namespace {
 
+using OptionsWidgets::indexedName;
 using Rgb::RGB;
 
 const int32_t White = RGB(255, 255, 255);
 const int32_t Red = RGB(255, 0, 0);
 const int32_t Black = RGB(0, 0, 0);
-
-QString indexed(const char* name, int index)
-{
-    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
-}
 
 QGroupBox* frame(QWidget* parent, const QString& name, const QString& caption, int left, int top, int width,
     int height)
@@ -111,8 +108,8 @@ void MicroViewDesign::buildSamplePictures(QWidget* form)
     const std::array<int, 3> lefts = {120, 5400, 2760};
     const std::array<int, 3> tops = {2640, 2640, 120};
     for (int i = 0; i < 3; ++i) {
-        fraDraw[i] = frame(form, indexed("fraDraw", i), captions[i], lefts[i], tops[i], 2175, 2175);
-        picDraw[i] = picture(fraDraw[i], indexed("picDraw", i), "Microscopic view of gas molecules' movement", 120,
+        fraDraw[i] = frame(form, indexedName("fraDraw", i), captions[i], lefts[i], tops[i], 2175, 2175);
+        picDraw[i] = picture(fraDraw[i], indexedName("picDraw", i), "Microscopic view of gas molecules' movement", 120,
             240, 1905, 1785);
         // The scale is the picture's design size in twips whatever the screen's
         // pixel ratio, so that molecule sizes keep their proportions.
@@ -123,17 +120,18 @@ void MicroViewDesign::buildSamplePictures(QWidget* form)
 
 void MicroViewDesign::buildCalculations(QWidget* form)
 {
-    fraCalculations[2] = frame(form, indexed("fraCalculations", 2), "Top Wall Calculations", 480, 240, 2175, 975);
-    fraCalculations[0] = frame(form, indexed("fraCalculations", 0), "Calculations of Totals", 5400, 240, 2175, 975);
-    fraCalculations[1] = frame(form, indexed("fraCalculations", 1), "Left Wall Calculations", 120, 1560, 2175, 975);
-    fraCalculations[3] = frame(form, indexed("fraCalculations", 3), "Right Wall Calculations", 5400, 1560, 2175, 975);
-    lblCurrentFx[0] = label(fraCalculations[1], indexed("lblCurrentFx", 0), "  Fx =",
+    fraCalculations[2] = frame(form, indexedName("fraCalculations", 2), "Top Wall Calculations", 480, 240, 2175, 975);
+    fraCalculations[0] = frame(form, indexedName("fraCalculations", 0), "Calculations of Totals", 5400, 240, 2175, 975);
+    fraCalculations[1] = frame(form, indexedName("fraCalculations", 1), "Left Wall Calculations", 120, 1560, 2175, 975);
+    fraCalculations[3] =
+        frame(form, indexedName("fraCalculations", 3), "Right Wall Calculations", 5400, 1560, 2175, 975);
+    lblCurrentFx[0] = label(fraCalculations[1], indexedName("lblCurrentFx", 0), "  Fx =",
         "Current value of force on left wall", 120, 240, 1935);
-    lblMeanFx[0] = label(fraCalculations[1], indexed("lblMeanFx", 0), "<Fx> =", "Mean value of force on left wall",
+    lblMeanFx[0] = label(fraCalculations[1], indexedName("lblMeanFx", 0), "<Fx> =", "Mean value of force on left wall",
         120, 600, 1935);
-    lblCurrentFx[1] = label(fraCalculations[3], indexed("lblCurrentFx", 1), "  Fx =",
+    lblCurrentFx[1] = label(fraCalculations[3], indexedName("lblCurrentFx", 1), "  Fx =",
         "Current value of force on right wall", 120, 240, 1935);
-    lblMeanFx[1] = label(fraCalculations[3], indexed("lblMeanFx", 1), "<Fx> =", "Mean value of force on right wall",
+    lblMeanFx[1] = label(fraCalculations[3], indexedName("lblMeanFx", 1), "<Fx> =", "Mean value of force on right wall",
         120, 600, 1935);
     lblCurrentFy = label(fraCalculations[2], "lblCurrentFy", "  Fy =", "Current value of force on top wall", 120,
         240, 1935);
@@ -174,14 +172,14 @@ void MicroViewDesign::buildBalloon()
         QLine(), QLine(360, 1140, 600, 1080), QLine(1905, 1065, 2145, 1125), QLine(1305, 705, 1545, 765)};
     const std::array<QPoint, 4> markers = {QPoint(), QPoint(750, 915), QPoint(1710, 915), QPoint(1110, 555)};
     for (int i = 1; i <= 3; ++i) {
-        Handle[i] = DecorShape::line(picMacroView, indexed("Handle", i), handles[i].x1(), handles[i].y1(),
+        Handle[i] = DecorShape::line(picMacroView, indexedName("Handle", i), handles[i].x1(), handles[i].y1(),
             handles[i].x2(), handles[i].y2());
         Handle[i]->setBorder(Black, 4);
-        Magnifier[i] = DecorShape::shape(picMacroView, indexed("Magnifier", i), Kind::Circle, lenses[i].x(),
+        Magnifier[i] = DecorShape::shape(picMacroView, indexedName("Magnifier", i), Kind::Circle, lenses[i].x(),
             lenses[i].y(), 360, 345);
         Magnifier[i]->setBorder(Black, 3);
         Magnifier[i]->setFill(RGB(128, 255, 255));
-        mirror[i] = DecorShape::shape(picMacroView, indexed("mirror", i), Kind::RoundedRectangle, markers[i].x(),
+        mirror[i] = DecorShape::shape(picMacroView, indexedName("mirror", i), Kind::RoundedRectangle, markers[i].x(),
             markers[i].y(), 120, 120);
         mirror[i]->setBorder(RGB(255, 128, 0), 1);
         mirror[i]->setFill(RGB(255, 128, 0));
@@ -193,8 +191,9 @@ void MicroViewDesign::buildBars(QWidget* form)
     const std::array<QString, 2> latticeHints = {"# of columns of molecules", "# of rows of molecules"};
     for (int i = 0; i < 2; ++i) {
         const int top = i == 0 ? 6000 : 6360;
-        HScrNoOfMolecules[i] = bar(form, indexed("HScrNoOfMolecules", i), 120, top, 1, 5, 5);
-        lblNoOfMolecules[i] = label(form, indexed("lblNoOfMolecules", i), QString(), latticeHints[i], 1320, top, 735);
+        HScrNoOfMolecules[i] = bar(form, indexedName("HScrNoOfMolecules", i), 120, top, 1, 5, 5);
+        lblNoOfMolecules[i] =
+            label(form, indexedName("lblNoOfMolecules", i), QString(), latticeHints[i], 1320, top, 735);
     }
     HScrMass = bar(form, "HScrMass", 2160, 6000, 1, 500, 1);
     lblMass = label(form, "lblMass", QString(), "Molecules' mass", 3360, 6000, 735);
@@ -230,7 +229,7 @@ void MicroViewDesign::buildButtons(QWidget* form)
     const std::array<int, 3> tops = {6240, 5280, 5760};
     for (int i = 0; i < 3; ++i) {
         cmdCommand[i] = new QPushButton(captions[i], form);
-        cmdCommand[i]->setObjectName(indexed("cmdCommand", i));
+        cmdCommand[i]->setObjectName(indexedName("cmdCommand", i));
         FormLayout::place(cmdCommand[i], 6240, tops[i], 1335, 375);
     }
     cmdCommand[0]->setToolTip("Click to exit");
