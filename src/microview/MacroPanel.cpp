@@ -42,23 +42,20 @@ void MacroPanel::DrawSquare(int16_t Direction, Canvas& Box, float Value)
 {
     const double W = Box.ScaleWidth();
     const double Hb = Box.ScaleHeight();
-    DevicePoint lineFrom;
-    DevicePoint lineTo;
+    // The bar's first two corners lie on the centre line, which is drawn over it.
     if (Direction == Horizontal) {
         const double end = W * (double(Value) + 0.5);
         m_IndicatorCorners = {corner(W / 2, 0), corner(W / 2, Hb), corner(end, Hb), corner(end, 0)};
-        lineFrom = corner(W / 2, 0);
-        lineTo = corner(W / 2, Hb);
     } else {
         const double end = Hb * (double(Value) + 0.5);
         m_IndicatorCorners = {corner(0, Hb / 2), corner(W, Hb / 2), corner(W, end), corner(0, end)};
-        lineFrom = corner(0, Hb / 2);
-        lineTo = corner(W, Hb / 2);
     }
     Box.Cls();
     Box.setDrawWidth(1);
     Box.Polygon({m_IndicatorCorners.begin(), m_IndicatorCorners.end()});
     Box.setDrawWidth(3);
+    const DevicePoint& lineFrom = m_IndicatorCorners[0];
+    const DevicePoint& lineTo = m_IndicatorCorners[1];
     Box.Line(float(lineFrom.x), float(lineFrom.y), float(lineTo.x), float(lineTo.y), Black);
 }
 
