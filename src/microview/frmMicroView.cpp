@@ -51,7 +51,7 @@ frmMicroView::frmMicroView()
     buildControls(this);
     SimulationTimer = new TickDriver([this] { tick(); }, this);
     connectControls();
-    guarded([this] { InitialiseProgram(); });
+    RunGuarded([this] { InitialiseProgram(); });
 }
 
 frmMicroView::~frmMicroView()
@@ -59,16 +59,12 @@ frmMicroView::~frmMicroView()
     SimulationTimer->setEnabled(false);
 }
 
-void frmMicroView::guarded(const std::function<void()>& handler)
-{
-    RunGuarded(handler);
-}
-
 void frmMicroView::connectControls()
 {
     for (int i = 0; i < 3; ++i) {
-        picDraw[i]->setPaintHandler([this, i] { guarded([this, i] { picDraw_Paint(i); }); });
-        connect(cmdCommand[i], &QPushButton::clicked, this, [this, i] { guarded([this, i] { cmdCommand_Click(i); }); });
+        picDraw[i]->setPaintHandler([this, i] { RunGuarded([this, i] { picDraw_Paint(i); }); });
+        connect(cmdCommand[i], &QPushButton::clicked, this,
+            [this, i] { RunGuarded([this, i] { cmdCommand_Click(i); }); });
     }
     for (int i = 0; i < 2; ++i)
         connectBar(HScrNoOfMolecules[i], [this, i] { HScrNoOfMolecules_Change(i); },
@@ -87,7 +83,8 @@ void frmMicroView::connectControls()
         {ChkPerturbation, &frmMicroView::ChkPerturbation_Click},
     }};
     for (const auto& [box, handler] : boxes)
-        connect(box, &QCheckBox::clicked, this, [this, handler = handler] { guarded([this, handler] { (this->*handler)(); }); });
+        connect(box, &QCheckBox::clicked, this,
+            [this, handler = handler] { RunGuarded([this, handler] { (this->*handler)(); }); });
 }
 
 void frmMicroView::connectBar(QScrollBar* bar, std::function<void()> change, std::function<void()> scroll)
@@ -95,16 +92,16 @@ void frmMicroView::connectBar(QScrollBar* bar, std::function<void()> change, std
     // While the thumb is dragged the bar scrolls; the change comes when it is let
     // go, and only if the value moved (a bar without a scroll handler applies its
     // value then). Arrow and page clicks change the value at once.
-    connect(bar, &QScrollBar::valueChanged, this, [this, bar, change, scroll] {
+    connect(bar, &QScrollBar::valueChanged, this, [bar, change, scroll] {
         if (!bar->isSliderDown())
-            guarded(change);
+            RunGuarded(change);
         else if (scroll)
-            guarded(scroll);
+            RunGuarded(scroll);
     });
     connect(bar, &QScrollBar::sliderPressed, this, [bar] { bar->setProperty("pressedValue", bar->value()); });
-    connect(bar, &QScrollBar::sliderReleased, this, [this, bar, change] {
+    connect(bar, &QScrollBar::sliderReleased, this, [bar, change] {
         if (bar->property("pressedValue").toInt() != bar->value())
-            guarded(change);
+            RunGuarded(change);
     });
 }
 
@@ -133,7 +130,7 @@ void frmMicroView::forEachSample(const std::function<void(Gas&)>& action)
 void frmMicroView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    guarded([this] { CentreForm(this); });
+    RunGuarded([this] { CentreForm(this); });
 }
 
 void frmMicroView::closeEvent(QCloseEvent* event)

@@ -52,7 +52,6 @@ protected:
 private:
     void connectControls();
     void connectBar(QScrollBar* bar, std::function<void()> change, std::function<void()> scroll);
-    void guarded(const std::function<void()>& handler);
     void tick();
     void pause();
 
