@@ -5,6 +5,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
+#include <QWidget>
 
 void ShowOptionsButtonHint(int16_t Index)
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QWidget>
-
 #include <cstdint>
+
+class QWidget;
 
 // Helpers that several windows share.
 
