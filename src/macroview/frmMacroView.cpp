@@ -48,6 +48,13 @@ QSize frmMacroView::sizeHint() const
 
 void frmMacroView::buildControls()
 {
+    buildMovieFrame();
+    buildButtons();
+    buildPlayer();
+}
+
+void frmMacroView::buildMovieFrame()
+{
     picMovie = new QFrame(this);
     picMovie->setObjectName("picMovie");
     picMovie->setFrameStyle(QFrame::Panel | QFrame::Sunken);
@@ -65,7 +72,11 @@ void frmMacroView::buildControls()
     lblMovieMessage->setStyleSheet("color: white; background: black; padding: 12px;");
     lblMovieMessage->hide();
     inside->addWidget(lblMovieMessage);
+    StatusHints::install(picMovie, "A Floatrixon rising into the evening sky");
+}
 
+void frmMacroView::buildButtons()
+{
     const char* const captions[] = {"Exit", "Play"};
     for (int i = 0; i < 2; ++i) {
         cmdCommand[i] = new QPushButton(captions[i], this);
@@ -74,10 +85,12 @@ void frmMacroView::buildControls()
     }
     FormLayout::place(cmdCommand[1], 2760, 3840, 1095, 375);
     FormLayout::place(cmdCommand[0], 4200, 3840, 1095, 375);
-    StatusHints::install(picMovie, "A Floatrixon rising into the evening sky");
     StatusHints::install(cmdCommand[1], "Play the film from where it stands");
     StatusHints::install(cmdCommand[0], "Close the macroscopic view");
+}
 
+void frmMacroView::buildPlayer()
+{
     m_player = new QMediaPlayer(this);
     m_player->setVideoOutput(oleMovie);
     connect(m_player, &QMediaPlayer::errorOccurred, this, [this](QMediaPlayer::Error, const QString& error) {
@@ -152,13 +165,7 @@ void frmMacroView::Form_Resize()
     const QSize outer = frame ? frame->size() : frameGeometry().size();
     const MovieLayout layout =
         MovieLayout::arrange(Twips::fromPixels(outer.width()), Twips::fromPixels(outer.height()));
-    placeInTwips(picMovie, layout.picMovie);
-    placeInTwips(cmdCommand[0], layout.exit);
-    placeInTwips(cmdCommand[1], layout.play);
-}
-
-void frmMacroView::placeInTwips(QWidget* control, const QRectF& twips)
-{
-    control->setGeometry(Twips::toPixels(twips.left()), Twips::toPixels(twips.top()),
-        Twips::toPixels(twips.width()), Twips::toPixels(twips.height()));
+    FormLayout::place(picMovie, layout.picMovie);
+    FormLayout::place(cmdCommand[0], layout.exit);
+    FormLayout::place(cmdCommand[1], layout.play);
 }

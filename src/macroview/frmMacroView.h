@@ -39,6 +39,7 @@ public:
     // can be shown.
     QString movieMessage() const;
 
+    // The designed size of the window.
     QSize sizeHint() const override;
 
 protected:
@@ -46,10 +47,12 @@ protected:
 
 private:
     void buildControls();
+    void buildMovieFrame();
+    void buildButtons();
+    void buildPlayer();
     void Form_Load();
     void Form_Resize();
     void showMovieMessage(const QString& text);
-    void placeInTwips(QWidget* control, const QRectF& twips);
 
     QFrame* picMovie = nullptr;
     QVideoWidget* oleMovie = nullptr;

@@ -2,6 +2,7 @@
 
 #include "core/Twips.h"
 
+#include <QRectF>
 #include <QWidget>
 
 namespace FormLayout {
@@ -10,6 +11,12 @@ void place(QWidget* control, int left, int top, int width, int height)
 {
     control->setGeometry(Twips::toPixels(left), Twips::toPixels(top), Twips::toPixels(width),
         Twips::toPixels(height));
+}
+
+void place(QWidget* control, const QRectF& twips)
+{
+    control->setGeometry(Twips::toPixels(twips.left()), Twips::toPixels(twips.top()),
+        Twips::toPixels(twips.width()), Twips::toPixels(twips.height()));
 }
 
 void fixSize(QWidget* window, int width, int height)
