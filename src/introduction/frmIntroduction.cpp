@@ -295,29 +295,30 @@ bool frmIntroduction::typedNumberValid(const QLineEdit* box, int16_t max) const
     return IsValidNumber(UnitPageFlags, box->text(), max) && LeadingNumber(box->text()) >= 1;
 }
 
+bool frmIntroduction::takeTypedNumber(QLineEdit* box, int16_t max, int16_t& position)
+{
+    const bool valid = typedNumberValid(box, max);
+    showValidity(box, valid);
+    if (!valid) {
+        cmdCommand[6]->setEnabled(false);
+        return false;
+    }
+    position = Numeric::toInt16(LeadingNumber(box->text()));
+    return true;
+}
+
 void frmIntroduction::txtUnit_Change()
 {
-    if (!typedNumberValid(txtUnit, IntroductionBook::UnitCount)) {
-        showValidity(txtUnit, false);
-        cmdCommand[6]->setEnabled(false);
-        return;
-    }
-    showValidity(txtUnit, true);
-    m_CurrentUnit = Numeric::toInt16(LeadingNumber(txtUnit->text()));
-    if (typedNumberValid(txtPage, m_book.PagesInUnit(m_CurrentUnit)))
+    // "Go To" comes back only once the other box holds a valid number too.
+    if (takeTypedNumber(txtUnit, IntroductionBook::UnitCount, m_CurrentUnit)
+        && typedNumberValid(txtPage, m_book.PagesInUnit(m_CurrentUnit)))
         cmdCommand[6]->setEnabled(true);
 }
 
 void frmIntroduction::txtPage_Change()
 {
-    if (!typedNumberValid(txtPage, m_book.PagesInUnit(m_CurrentUnit))) {
-        showValidity(txtPage, false);
-        cmdCommand[6]->setEnabled(false);
-        return;
-    }
-    showValidity(txtPage, true);
-    m_CurrentPage = Numeric::toInt16(LeadingNumber(txtPage->text()));
-    if (typedNumberValid(txtUnit, IntroductionBook::UnitCount))
+    if (takeTypedNumber(txtPage, m_book.PagesInUnit(m_CurrentUnit), m_CurrentPage)
+        && typedNumberValid(txtUnit, IntroductionBook::UnitCount))
         cmdCommand[6]->setEnabled(true);
 }
 

@@ -85,6 +85,9 @@ private:
     void writeUnitText(int16_t unit);
     void writePageText(int16_t page);
     bool typedNumberValid(const QLineEdit* box, int16_t max) const;
+    // Marks a typed unit or page number valid or refused; a valid one becomes the
+    // position, a refused one disables "Go To". True when it was valid.
+    bool takeTypedNumber(QLineEdit* box, int16_t max, int16_t& position);
 
     bool onCollisionPage() const;
     bool onLiquidPage() const;
