@@ -250,6 +250,18 @@ int32_t frmCollisionOptions::pictureBackground()
     return IsLoaded<frmIntroduction>() ? Form<frmIntroduction>().PictureBackColor() : White;
 }
 
+void frmCollisionOptions::showColors(const std::array<float, 4>& stored)
+{
+    const int32_t background = pictureBackground();
+    for (int i = 0; i < int(stored.size()); ++i)
+        setSwatchColor(lblCurrentColor[i], Numeric::toInt32(stored[i]) ^ background);
+}
+
+float frmCollisionOptions::storedColor(int Index, int32_t background) const
+{
+    return float(swatchColor(lblCurrentColor[Index]) ^ background);
+}
+
 void frmCollisionOptions::writeField(int kind, int Index, const QString& text)
 {
     field(kind, Index)->setText(text);
@@ -259,7 +271,6 @@ void frmCollisionOptions::writeField(int kind, int Index, const QString& text)
 void frmCollisionOptions::ShowCurrentValues()
 {
     const CollisionSetup& setup = CollisionSetup::global();
-    const int32_t background = pictureBackground();
     for (int i = 0; i < 2; ++i) {
         const int body = i + 1;
         writeField(Mass, i, QString::number(setup.Mass[body]));
@@ -268,7 +279,6 @@ void frmCollisionOptions::ShowCurrentValues()
         writeField(PositionY, i, decimalText(setup.Y[body]));
         writeField(VelocityX, i, decimalText(setup.Ux[body]));
         writeField(VelocityY, i, decimalText(setup.Uy[body]));
-        setSwatchColor(lblCurrentColor[i], Numeric::toInt32(setup.BodyColor[body]) ^ background);
     }
     chkGraphS->setChecked(setup.GraphDistance == 1);
     chkGraphU->setChecked(setup.GraphVelocity == 1);
@@ -278,8 +288,7 @@ void frmCollisionOptions::ShowCurrentValues()
     chkShowForces->setChecked(setup.ShowForces == 1);
     if (setup.ForceModel >= 0 && setup.ForceModel < int16_t(optModel.size()))
         optModel[setup.ForceModel]->setChecked(true);
-    setSwatchColor(lblCurrentColor[2], Numeric::toInt32(setup.VelocityColor) ^ background);
-    setSwatchColor(lblCurrentColor[3], Numeric::toInt32(setup.ForceColor) ^ background);
+    showColors({setup.BodyColor[1], setup.BodyColor[2], setup.VelocityColor, setup.ForceColor});
     InvalidFields.clear();
     OptType1[0]->setChecked(true);
     OptType2[0]->setChecked(true);
@@ -345,7 +354,7 @@ void frmCollisionOptions::AcceptValues()
         setup.Y[body] = value(PositionY, i);
         setup.Ux[body] = value(VelocityX, i);
         setup.Uy[body] = value(VelocityY, i);
-        setup.BodyColor[body] = float(swatchColor(lblCurrentColor[i]) ^ background);
+        setup.BodyColor[body] = storedColor(i, background);
     }
     setup.ShowVelocities = chkShowVelocities->isChecked() ? 1 : 0;
     setup.ShowForces = chkShowForces->isChecked() ? 1 : 0;
@@ -358,8 +367,8 @@ void frmCollisionOptions::AcceptValues()
             setup.ForceModel = int16_t(i);
             break;
         }
-    setup.VelocityColor = float(swatchColor(lblCurrentColor[2]) ^ background);
-    setup.ForceColor = float(swatchColor(lblCurrentColor[3]) ^ background);
+    setup.VelocityColor = storedColor(2, background);
+    setup.ForceColor = storedColor(3, background);
 }
 
 void frmCollisionOptions::ShowDefaultValues()
@@ -375,11 +384,8 @@ void frmCollisionOptions::ShowDefaultValues()
     chkProportional->setChecked(false);
     optModel[0]->setChecked(true);
     const CollisionSetup& setup = CollisionSetup::global();
-    const int32_t background = pictureBackground();
-    setSwatchColor(lblCurrentColor[0], Numeric::toInt32(setup.DefaultBodyColor[1]) ^ background);
-    setSwatchColor(lblCurrentColor[1], Numeric::toInt32(setup.DefaultBodyColor[2]) ^ background);
-    setSwatchColor(lblCurrentColor[2], Numeric::toInt32(setup.DefaultVelocityColor) ^ background);
-    setSwatchColor(lblCurrentColor[3], Numeric::toInt32(setup.DefaultForceColor) ^ background);
+    showColors({setup.DefaultBodyColor[1], setup.DefaultBodyColor[2], setup.DefaultVelocityColor,
+        setup.DefaultForceColor});
 }
 
 void frmCollisionOptions::cmdCommand_Click(int Index)

@@ -74,6 +74,12 @@ private:
     void writeField(int kind, int Index, const QString& text);
     void Form_Resize();
 
+    // The experiment keeps its colours as drawing colours, combined by exclusive-or
+    // with the picture's background; the swatches show the colours as seen. The four
+    // swatches are body 1, body 2, velocities and forces.
+    void showColors(const std::array<float, 4>& stored);
+    float storedColor(int Index, int32_t background) const;
+
     QLineEdit*& field(int kind, int Index);
     static int32_t pictureBackground();
 
