@@ -10,6 +10,7 @@
 class MemoryStatus
 {
 public:
+    // Zero figures, or the figures given, in bytes.
     MemoryStatus() = default;
     MemoryStatus(int64_t totalBytes, int64_t availableBytes);
 
@@ -20,6 +21,7 @@ public:
     // The figures in the text of a meminfo file, whose values are in kB.
     static MemoryStatus parse(const QString& meminfo);
 
+    // The figures, in bytes.
     int64_t totalBytes() const { return m_totalBytes; }
     int64_t availableBytes() const { return m_availableBytes; }
 

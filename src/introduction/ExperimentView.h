@@ -23,6 +23,7 @@ public:
     static constexpr int16_t LeftButton = 1;
     static constexpr int16_t RightButton = 2;
 
+    // A view that draws on the introduction's picture, which outlives it.
     explicit ExperimentView(Canvas& canvas);
 
     // The experiment's first set-up when the introduction loads, after the

@@ -10,6 +10,7 @@
 class IntroductionBook
 {
 public:
+    // The number of units, and the most pages any unit has.
     static constexpr int16_t UnitCount = 5;
     static constexpr int16_t MaxPages = 8;
 

@@ -18,6 +18,7 @@ public:
     static constexpr const char* Page6Picture = "pot_t2.bmp";
     static constexpr const char* Page8Picture = "pot_t1.bmp";
 
+    // A page that draws on the introduction's picture, which outlives it.
     explicit LiquidPage(ImageCanvas& canvas);
 
     // Sets the page up (surface level, molecules, background picture, partition)

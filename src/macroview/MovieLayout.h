@@ -8,12 +8,14 @@
 // never change, only the positions, which may be negative in a small window.
 struct MovieLayout
 {
+    // The fixed sizes of the picture and the buttons, and the gap between buttons.
     static constexpr double PictureWidth = 4815;
     static constexpr double PictureHeight = 3375;
     static constexpr double ButtonWidth = 1095;
     static constexpr double ButtonHeight = 375;
     static constexpr double ButtonGap = 250;
 
+    // Where the picture, "Exit" and "Play" go.
     QRectF picMovie;
     QRectF exit;
     QRectF play;

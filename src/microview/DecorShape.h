@@ -12,6 +12,7 @@ class DecorShape : public QWidget
     Q_OBJECT
 
 public:
+    // The forms a decoration takes.
     enum class Kind { Rectangle, Circle, RoundedRectangle, Line };
 
     // A filled shape in the box (left, top, width, height) in twips; a circle

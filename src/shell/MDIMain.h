@@ -17,6 +17,7 @@ class MDIMain : public QMainWindow
     Q_OBJECT
 
 public:
+    // Builds the frame with its menus, an empty child area and an empty status line.
     MDIMain();
 
     // Shows a form as a child window of the frame, or brings it forward if it is
