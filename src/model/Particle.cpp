@@ -313,6 +313,11 @@ void Particle::MoveX(float dt, float Fx, bool Perturbation, float& ImpulseX)
         m_Vx = m_Vx + p;
     }
 
+    MeetSidesX(Perturbation, ImpulseX);
+}
+
+void Particle::MeetSidesX(bool Perturbation, float& ImpulseX)
+{
     const float r = m_radius;
     const float WC = m_WallCoord;
     const Canvas& surface = canvas();
@@ -372,6 +377,12 @@ void Particle::MoveY(float dt, float Fy, bool Perturbation, int16_t Temperature,
         m_Vy = m_Vy + p;
     }
 
+    MeetSidesY(Perturbation, Temperature, EquilibriumTemperature, ImpulseY);
+}
+
+void Particle::MeetSidesY(bool Perturbation, int16_t Temperature, int16_t EquilibriumTemperature,
+                          float& ImpulseY)
+{
     const float r = m_radius;
     const float WC = m_WallCoord;
     const Canvas& surface = canvas();
@@ -409,11 +420,8 @@ void Particle::MoveY(float dt, float Fy, bool Perturbation, int16_t Temperature,
 // at a random place along that side.
 void Particle::ReenterX(bool Perturbation, float yFrom, float yExtent)
 {
-    m_Vx = -m_Vx;
     m_Ycoord = SharedRandom::next() * yExtent + yFrom;
-    m_DirectionX = -m_DirectionX;
-    if (m_KapaX == 0)
-        RegulateVx(Perturbation);
+    ReboundX(Perturbation);
 }
 
 void Particle::ReboundX(bool Perturbation)

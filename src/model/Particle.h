@@ -183,6 +183,11 @@ private:
     void MoveX(float dt, float Fx, bool Perturbation, float& ImpulseX);
     void MoveY(float dt, float Fy, bool Perturbation, int16_t Temperature,
                int16_t EquilibriumTemperature, float& ImpulseY);
+    // The last phase of each axis's move: the measured wall turns the molecule back
+    // and reports the impulse; an open side brings it back in.
+    void MeetSidesX(bool Perturbation, float& ImpulseX);
+    void MeetSidesY(bool Perturbation, int16_t Temperature, int16_t EquilibriumTemperature,
+                    float& ImpulseY);
     void ReenterX(bool Perturbation, float yFrom, float yExtent);
     void ReboundX(bool Perturbation);
     void ReenterY(bool Perturbation, float xFrom, float xExtent);
