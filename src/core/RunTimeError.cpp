@@ -24,3 +24,8 @@ RunTimeError RunTimeError::invalidProcedureCall()
 {
     return RunTimeError(InvalidProcedureCall, "Invalid procedure call or argument");
 }
+
+RunTimeError RunTimeError::objectNotSet()
+{
+    return RunTimeError(ObjectNotSet, "Object variable or With block variable not set");
+}

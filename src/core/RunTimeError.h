@@ -5,8 +5,9 @@
 #include <string>
 
 // The program's run-time error: an arithmetic fault (16-bit overflow, a division by
-// zero, an index out of range) that ends the handler in which it happened. The
-// model throws it and never catches it; the windows' handler guard shows it.
+// zero, an index out of range) or a missing object, that ends the handler in which
+// it happened. The model throws it and never catches it; the windows' handler guard
+// shows it.
 class RunTimeError : public std::runtime_error
 {
 public:
@@ -16,6 +17,7 @@ public:
         Overflow = 6,
         SubscriptOutOfRange = 9,
         DivisionByZero = 11,
+        ObjectNotSet = 91,
     };
 
     RunTimeError(int32_t number, const std::string& message);
@@ -25,6 +27,7 @@ public:
     static RunTimeError divisionByZero();
     static RunTimeError subscriptOutOfRange();
     static RunTimeError invalidProcedureCall();
+    static RunTimeError objectNotSet();
 
     // The error number.
     int32_t number() const { return m_number; }

@@ -18,11 +18,6 @@ constexpr int32_t DefaultColor = Rgb::RGB(255, 0, 0);
 constexpr int32_t ObservedColor = Rgb::RGB(0, 0, 255);
 constexpr int32_t Black = Rgb::RGB(0, 0, 0);
 
-RunTimeError objectNotSet()
-{
-    return RunTimeError(91, "Object variable or With block variable not set");
-}
-
 // Numeric::toInt32's rounding (to nearest, halves to even) without a library call,
 // for the contact tests of every pair in every step: adding and taking away
 // 1.5 x 2^52 rounds a double in the default rounding mode. Out of the safe range
@@ -51,7 +46,7 @@ Gas::~Gas()
 Canvas& Gas::canvas() const
 {
     if (m_Canvas == nullptr)
-        throw objectNotSet();
+        throw RunTimeError::objectNotSet();
     return *m_Canvas;
 }
 
@@ -59,7 +54,7 @@ Particle& Gas::missingMolecule(int16_t i) const
 {
     if (i < 1 || i > m_NoOfMolecules || size_t(i) >= m_Molecule.size())
         throw RunTimeError::subscriptOutOfRange();
-    throw objectNotSet();
+    throw RunTimeError::objectNotSet();
 }
 
 template <typename Action>

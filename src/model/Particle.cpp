@@ -33,7 +33,7 @@ Particle::Particle()
 Canvas& Particle::canvas() const
 {
     if (m_Canvas == nullptr)
-        throw RunTimeError(91, "Object variable or With block variable not set");
+        throw RunTimeError::objectNotSet();
     return *m_Canvas;
 }
 
