@@ -5,6 +5,20 @@
 
 #include <cmath>
 
+namespace {
+
+bool hasContactLaw(int16_t model)
+{
+    return model == CollisionSetup::ContinuousVelocity || model == CollisionSetup::ContinuousForce;
+}
+
+double along(int16_t component, float angle)
+{
+    return component == CollisionState::ComponentX ? std::cos(double(angle)) : std::sin(double(angle));
+}
+
+} // namespace
+
 void RotateComponents(float angle, float a, float b, float& a2, float& b2)
 {
     const double c = std::cos(double(angle));
@@ -44,6 +58,8 @@ int16_t CollisionState::ComputeCollision(int16_t page)
     TimeStep = static_cast<float>(2.0 * ContactStart / 100.0);
     LineAngle = DirectionAngle(dx, dy);
     computeExchange();
+    computeContactForces();
+    computeExtremes();
     computeContactLaws();
     return checkCode(page, dx, dy, dux, duy, true);
 }
@@ -72,7 +88,11 @@ void CollisionState::computeExchange()
         TangentV[i] = TangentU[i];
         RotateComponents(-LineAngle, NormalV[i], TangentV[i], FinalVx[i], FinalVy[i]);
     }
+}
 
+void CollisionState::computeContactForces()
+{
+    const CollisionSetup& setup = *m_setup;
     const double halfContact = 12.0 * TimeStep / 2.0;
     ContactMiddle = static_cast<float>(ContactStart + halfContact);
     ContactEnd = static_cast<float>(ContactMiddle + halfContact);
@@ -87,15 +107,16 @@ void CollisionState::computeExchange()
             peak = setup.Mass[i] * dV / duration;
         m_force[i] = static_cast<float>(peak);
     }
+}
 
+void CollisionState::computeExtremes()
+{
+    const CollisionSetup& setup = *m_setup;
     MaxVelocity = setup.Ux[1];
     for (const float v : {setup.Ux[2], setup.Uy[1], setup.Uy[2], FinalVx[1], FinalVx[2], FinalVy[1],
                           FinalVy[2]})
         MaxVelocity = LargerOf(MaxVelocity, v);
-    MaxForce = setup.ForceModel == CollisionSetup::ContinuousVelocity
-                       || setup.ForceModel == CollisionSetup::ContinuousForce
-                   ? LargerOf(m_force[1], m_force[2])
-                   : SpikeForce;
+    MaxForce = hasContactLaw(setup.ForceModel) ? LargerOf(m_force[1], m_force[2]) : SpikeForce;
     for (int16_t i = 1; i <= 2; ++i) {
         EndX[i] = static_cast<float>(setup.X[i] + (double(FinalVx[i]) + setup.Ux[i]) * ContactStart);
         EndY[i] = static_cast<float>(setup.Y[i] + (double(FinalVy[i]) + setup.Uy[i]) * ContactStart);
@@ -183,20 +204,6 @@ const CollisionContactLaw& CollisionState::lawAt(int16_t body, float t) const
 {
     return m_law[body][t <= ContactMiddle ? 1 : 2];
 }
-
-namespace {
-
-bool hasContactLaw(int16_t model)
-{
-    return model == CollisionSetup::ContinuousVelocity || model == CollisionSetup::ContinuousForce;
-}
-
-double along(int16_t component, float angle)
-{
-    return component == CollisionState::ComponentX ? std::cos(double(angle)) : std::sin(double(angle));
-}
-
-} // namespace
 
 float CollisionState::position(int16_t component, int16_t body, float t)
 {

@@ -86,7 +86,13 @@ public:
     CollisionArray<float, 2> ContactX, ContactY;  // last position computed inside the contact
 
 private:
+    // The phases of ComputeCollision once the moment of contact is known: the
+    // velocities after the exchange, the end of the contact and its forces, the
+    // largest velocity and force and the instant-exchange end positions, and the
+    // contact laws.
     void computeExchange();
+    void computeContactForces();
+    void computeExtremes();
     void computeContactLaws();
     int16_t checkCode(int16_t page, float dx, float dy, float dux, float duy, bool contactKnown) const;
     float position(int16_t component, int16_t body, float t);
