@@ -22,8 +22,11 @@ struct DevicePoint
 class Canvas
 {
 public:
+    // DrawMode values: the pen's colour replaces the pixel, or is combined with it
+    // by exclusive-or.
     static constexpr int16_t CopyPen = 13;
     static constexpr int16_t XorPen = 7;
+    // FillStyle values.
     static constexpr int16_t Solid = 0;
     static constexpr int16_t Transparent = 1;
 

@@ -25,6 +25,8 @@ public:
     // Called whenever the picture has to be drawn anew: when first shown and after
     // a resize. The surface keeps no drawing list, so the owner draws it all again.
     void setPaintHandler(std::function<void()> handler) { m_paintHandler = std::move(handler); }
+    // Called on a press (with the button pressed), on every move (with the buttons
+    // held) and on a release (with the button released).
     void setMouseDownHandler(MouseHandler handler) { m_mouseDown = std::move(handler); }
     void setMouseMoveHandler(MouseHandler handler) { m_mouseMove = std::move(handler); }
     void setMouseUpHandler(MouseHandler handler) { m_mouseUp = std::move(handler); }
