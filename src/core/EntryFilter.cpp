@@ -1,6 +1,9 @@
 #include "EntryFilter.h"
 
+#include <charconv>
 #include <cmath>
+#include <limits>
+#include <string>
 
 namespace {
 
@@ -42,23 +45,47 @@ bool charactersAllowed(int16_t flags, const QString& text)
 
 } // namespace
 
+namespace {
+
+// Reads digits with at most one point, no sign. A value beyond the range of a
+// double reads as infinity, so that a long run of digits is larger than any
+// maximum instead of reading as 0; one too small to hold reads as 0.
+double unsignedValue(const std::string& digits)
+{
+    double value = 0.0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (error == std::errc::result_out_of_range) {
+        const bool wholePartNonZero = digits.find_first_of("123456789") < digits.find('.');
+        return wholePartNonZero ? std::numeric_limits<double>::infinity() : 0.0;
+    }
+    return error == std::errc() ? value : 0.0;
+}
+
+} // namespace
+
 double LeadingNumber(const QString& text)
 {
-    QString number;
+    std::string digits;
+    bool negative = false;
+    bool signSeen = false;
     bool pointSeen = false;
     for (const QChar c : text) {
         if (isBlank(c))
             continue;
-        const bool signHere = number.isEmpty() && (c == u'-' || c == u'+');
+        const bool signHere = !signSeen && digits.empty() && (c == u'-' || c == u'+');
         const bool pointHere = c == u'.' && !pointSeen;
-        if (!(c.isDigit() && c.unicode() < 128) && !signHere && !pointHere)
+        if (signHere) {
+            signSeen = true;
+            negative = c == u'-';
+            continue;
+        }
+        if (!(c.isDigit() && c.unicode() < 128) && !pointHere)
             break;
         pointSeen = pointSeen || pointHere;
-        number += c;
+        digits += char(c.unicode());
     }
-    bool ok = false;
-    const double value = number.toDouble(&ok);
-    return ok ? value : 0.0;
+    const double value = unsignedValue(digits);
+    return negative ? -value : value;
 }
 
 bool IsValidNumber(int16_t Flags, const QString& Text, int16_t Max)

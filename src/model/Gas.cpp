@@ -38,10 +38,10 @@ double partnerBit(int16_t j)
 
 } // namespace
 
-Gas::~Gas()
-{
-    DestroyMolecules();
-}
+// The molecules go with the array; releasing them by index could raise the index
+// error when rows or columns were written after the last layout, and a sample that
+// is going away must not fail.
+Gas::~Gas() = default;
 
 Canvas& Gas::canvas() const
 {
@@ -211,10 +211,13 @@ void Gas::setMoleculesKapaY(int16_t value)
 
 void Gas::DestroyMolecules()
 {
-    const size_t last = std::min<size_t>(m_NoOfMolecules > 0 ? size_t(m_NoOfMolecules) : 0,
-                                         m_Molecule.empty() ? 0 : m_Molecule.size() - 1);
-    for (size_t i = 1; i <= last; ++i)
-        m_Molecule[i].reset();
+    if (m_Molecule.empty())
+        return;
+    for (int16_t i = 1; i <= m_NoOfMolecules; ++i) {
+        if (size_t(i) >= m_Molecule.size())
+            throw RunTimeError::subscriptOutOfRange();
+        m_Molecule[size_t(i)].reset();
+    }
 }
 
 void Gas::setLatticeKapaX(int16_t value)

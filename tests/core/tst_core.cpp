@@ -7,6 +7,8 @@
 
 #include <QtTest>
 
+#include <limits>
+
 #include <vector>
 
 class CoreTest : public QObject
@@ -121,6 +123,15 @@ void CoreTest::leadingNumberReadsThroughBlanks()
     QCOMPARE(LeadingNumber("-2.5x"), -2.5);
     QCOMPARE(LeadingNumber("-"), 0.0);
     QCOMPARE(LeadingNumber(""), 0.0);
+    QCOMPARE(LeadingNumber("+-1"), 0.0);
+    QCOMPARE(LeadingNumber(".5"), 0.5);
+    // Beyond the range of a double: larger than any maximum, never 0.
+    const QString huge = "1" + QString(400, u'0');
+    QCOMPARE(LeadingNumber(huge), std::numeric_limits<double>::infinity());
+    QCOMPARE(LeadingNumber("-" + huge), -std::numeric_limits<double>::infinity());
+    QCOMPARE(LeadingNumber("0." + QString(400, u'0') + "1"), 0.0);
+    QVERIFY(!IsValidNumber(1, huge, 999));
+    QVERIFY(!IsValidNumber(10, "-" + huge, 100));
 }
 
 void CoreTest::fixedRandomSequenceRepeatsAndIgnoresClockReseeding()

@@ -132,6 +132,9 @@ private slots:
         QCOMPARE(&gas.Molecule(1), first);
         gas.DestroyMolecules();
         QVERIFY_THROWS_EXCEPTION(RunTimeError, gas.Molecule(1));
+        // Rows written after the last layout reach beyond the array.
+        gas.setRowsOfMolecules(3);
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, gas.DestroyMolecules());
         gas.setRowsOfMolecules(200);
         QVERIFY_THROWS_EXCEPTION(RunTimeError, gas.setColumnsOfMolecules(200));
     }
