@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps configure build run test bench clean
+.PHONY: all deps configure build run test bench sanitize random-input clean
 
 all: build
 
@@ -28,6 +28,19 @@ test: build
 bench: configure
 	@cmake --build $(BUILD) -j $(JOBS) --target benchmarks
 	@for b in $(BUILD)/bin/bench_*; do [ -x "$$b" ] && QT_QPA_PLATFORM=offscreen "$$b"; done; true
+
+# The whole suite again in a build with AddressSanitizer and UndefinedBehaviorSanitizer.
+sanitize: deps
+	@cmake -S . -B $(BUILD)-asan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFLOATRIX_SANITIZE=ON > /dev/null
+	@cmake --build $(BUILD)-asan -j $(JOBS)
+	@cd $(BUILD)-asan && ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
+
+# A long run of random user input over the whole program (EVENTS and SEED choose it).
+EVENTS ?= 200000
+SEED ?= 1
+random-input: build
+	@FLOATRIX_RANDOM_EVENTS=$(EVENTS) FLOATRIX_RANDOM_SEED=$(SEED) QT_QPA_PLATFORM=offscreen \
+	  XDG_RUNTIME_DIR=$(CURDIR)/$(BUILD)/xdg-runtime $(BUILD)/bin/tst_random_input
 
 clean:
 	@rm -rf $(BUILD)
