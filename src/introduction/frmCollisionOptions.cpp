@@ -1,6 +1,7 @@
 #include "frmCollisionOptions.h"
 
 #include "OptionsWidgets.h"
+#include "TypingLimit.h"
 #include "frmIntroduction.h"
 
 #include "core/EntryFilter.h"
@@ -127,7 +128,8 @@ void frmCollisionOptions::createBodyRow(int kind)
 
         QLineEdit* box = new QLineEdit(fraCollisionData);
         box->setObjectName(indexedName(kindInfo.box, i));
-        box->setMaxLength(3);
+        // Three characters may be typed; a stored value is shown whole.
+        m_typingLimit[kind][i] = new TypingLimit(box, 3);
         FormLayout::place(box, ColumnLeft[i], RowTop[kind], 495, 285);
         StatusHints::install(box, fieldHint(kind, i + 1, kindInfo.max));
         connect(box, &QLineEdit::textEdited, this, [this, kind, i] { RunGuarded([=, this] { Field_Change(kind, i); }); });
@@ -264,7 +266,7 @@ float frmCollisionOptions::storedColor(int Index, int32_t background) const
 
 void frmCollisionOptions::writeField(int kind, int Index, const QString& text)
 {
-    field(kind, Index)->setText(text);
+    m_typingLimit[kind][Index]->setText(text);
     Field_Change(kind, Index);
 }
 

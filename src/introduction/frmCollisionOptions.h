@@ -17,6 +17,7 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QWidget;
+class TypingLimit;
 
 // "Παράμετροι Ελαστικής Κρούσης": the modal dialog in which the learner sets the two
 // bodies of the collision experiment (mass, radius, initial position and velocity),
@@ -114,6 +115,9 @@ private:
 
     std::array<QPushButton*, 3> cmdCommand{};
     ColorChooser CMDcolors;
+
+    // The typing limit of each box, by kind and body index.
+    std::array<std::array<TypingLimit*, 2>, BodyParameterHints::KindCount> m_typingLimit{};
 
     // The typed numbers whose last check failed, as (kind, body index).
     std::set<std::pair<int, int>> InvalidFields;

@@ -61,6 +61,16 @@ QString boxTexts()
     return texts.join(' ');
 }
 
+// Every body value of the record, kind by kind, the first body's before the second's.
+QList<float> storedValues()
+{
+    const CollisionSetup& setup = CollisionSetup::global();
+    QList<float> values;
+    for (const auto* field : {&setup.Radius, &setup.X, &setup.Y, &setup.Ux, &setup.Uy})
+        values << (*field)[1] << (*field)[2];
+    return values << setup.Mass[1] << setup.Mass[2];
+}
+
 int32_t swatch(int index)
 {
     return swatchColor(control<QLabel>(indexedName("lblCurrentColor", index)));
@@ -92,6 +102,7 @@ private slots:
     void loadsTheRecordWithPlainColoursAndHints();
     void typedNumbersAreCheckedAgainstTheirRanges();
     void okStoresTheTypedValuesAndChosenColours();
+    void aReopenedDialogShowsAndKeepsEveryValueWhole();
     void eachViewShowsOnlyItsOwnControlsAndDefaults();
 };
 
@@ -202,6 +213,43 @@ void CollisionOptionsTest::okStoresTheTypedValuesAndChosenColours()
     // Colours are stored combined with the picture's white background.
     QCOMPARE(setup.BodyColor[1], float(Rgb::RGB(0, 200, 0) ^ Rgb::RGB(255, 255, 255)));
     QCOMPARE(setup.ForceColor, float(Rgb::RGB(0, 200, 0) ^ Rgb::RGB(255, 255, 255)));
+}
+
+void CollisionOptionsTest::aReopenedDialogShowsAndKeepsEveryValueWhole()
+{
+    // Three typed characters can make a value whose plain text is longer.
+    open(1);
+    for (const auto& [name, index, text] : {std::tuple{"txtR", 0, ".25"}, {"txtR", 1, ".05"}, {"txtx", 0, "-.5"},
+             {"txty", 1, "-.1"}, {"txtux", 1, "-.5"}, {"txtuy", 0, ".75"}})
+        type(box(name, index), text);
+    command(0)->click();
+    const QList<float> stored = storedValues();
+    QCOMPARE(stored[0], 0.25f);
+
+    open(1);
+    QCOMPARE(boxTexts(), QString("10 15 0.25 0.05 -0.5 100 0 -0.1 100 -0.5 0.75 0"));
+    for (const char* name : {"txtR", "txtx", "txty", "txtux", "txtuy"})
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(textColor(box(name, i)), ValidTextColor);
+    QVERIFY(command(0)->isEnabled());
+    command(0)->click();
+    QCOMPARE(storedValues(), stored);
+
+    // The limit still holds for typing: a shown text grows no longer, but it can be shortened.
+    open(2);
+    QLineEdit* radius = box("txtR", 0);
+    radius->end(false);
+    QTest::keyClick(radius, Qt::Key_1);
+    QCOMPARE(radius->text(), QString("0.25"));
+    QTest::keyClick(radius, Qt::Key_Backspace);
+    QCOMPARE(radius->text(), QString("0.2"));
+    QTest::keyClick(radius, Qt::Key_3);
+    QCOMPARE(radius->text(), QString("0.2"));
+    // A locked y value of the side view is stored as shown, whole.
+    command(0)->click();
+    QCOMPARE(CollisionSetup::global().Radius[1], 0.2f);
+    QCOMPARE(CollisionSetup::global().Y[2], -0.1f);
+    QCOMPARE(CollisionSetup::global().Uy[1], 0.75f);
 }
 
 void CollisionOptionsTest::eachViewShowsOnlyItsOwnControlsAndDefaults()
