@@ -6,6 +6,9 @@
 #include "core/Numeric.h"
 #include "model/CollisionState.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 constexpr int16_t AboveView = 1;
@@ -86,18 +89,49 @@ void CollisionScene::DrawBodies(Canvas& canvas, const CollisionSetup& setup, Col
     DrawVectors(canvas, setup, state, page);
 }
 
+float CollisionScene::VelocityScale(const CollisionSetup& setup, const CollisionState& state, int16_t page)
+{
+    // The experiment's largest velocity is its largest signed component, which is 0
+    // or negative when the bodies move left or down: arrows scaled by it vanish or
+    // point against the motion and run off the picture. The arrows are scaled by the
+    // largest speed along a drawn axis instead, so they point the way the bodies
+    // move and the longest is ArrowLength.
+    double scale = 0;
+    for (int16_t i = 1; i <= 2; ++i) {
+        scale = std::max({scale, std::fabs(double(setup.Ux[i])), std::fabs(double(state.FinalVx[i]))});
+        if (page == AboveView)
+            scale = std::max({scale, std::fabs(double(setup.Uy[i])), std::fabs(double(state.FinalVy[i]))});
+    }
+    return static_cast<float>(scale);
+}
+
+float CollisionScene::ForceScale(const CollisionState& state)
+{
+    // The largest contact force is signed too: scaled by its size, the arrows keep
+    // their directions whichever body pushes harder.
+    return std::max({std::fabs(state.MaxForce), std::fabs(state.ContactForce(1)), std::fabs(state.ContactForce(2))});
+}
+
 void CollisionScene::DrawVectors(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
                                  int16_t page)
 {
     const float t = state.SimulationTime;
-    const auto pair = [&](int16_t quantity, float scale, float colour) {
-        DrawVectorPair(canvas, page, state.BodyState(1, quantity, 1, t), state.BodyState(1, quantity, 2, t),
-                       state.BodyState(2, quantity, 1, t), state.BodyState(2, quantity, 2, t), scale, colour);
+    const auto pair = [&](int16_t quantity, float scale, float colour, float xDirection) {
+        DrawVectorPair(canvas, page, xDirection * state.BodyState(1, quantity, 1, t),
+                       xDirection * state.BodyState(1, quantity, 2, t), state.BodyState(2, quantity, 1, t),
+                       state.BodyState(2, quantity, 2, t), scale, colour);
     };
     if (setup.ShowVelocities == 1)
-        pair(CollisionState::Velocity, state.MaxVelocity, setup.VelocityColor);
-    if (setup.ShowForces == 1)
-        pair(CollisionState::Force, state.MaxForce, setup.ForceColor);
+        pair(CollisionState::Velocity, VelocityScale(setup, state, page), setup.VelocityColor, 1);
+    if (setup.ShowForces == 1) {
+        // The linear model's spike has the sign of the change along the line of
+        // centres, whichever way that line runs: with the second body on the left
+        // both arrows would point into the other body. Drawn along x, the spike
+        // takes the direction in which its body is pushed.
+        const bool spike = setup.ForceModel == CollisionSetup::LinearModel;
+        const float xDirection = spike && std::cos(double(state.LineAngle)) < 0 ? -1.0f : 1.0f;
+        pair(CollisionState::Force, ForceScale(state), setup.ForceColor, xDirection);
+    }
 }
 
 void CollisionScene::DrawVectorPair(Canvas& canvas, int16_t page, float vx1, float vx2, float vy1,
@@ -114,8 +148,11 @@ void CollisionScene::DrawVectorPair(Canvas& canvas, int16_t page, float vx1, flo
 void CollisionScene::DrawArrow(Canvas& canvas, int16_t component, float cx, float cy, float, float scale,
                                float value, float colour)
 {
-    // Without a scale there is no length to give the arrow: it is left out.
-    if (value == 0 || scale == 0)
+    // Without a scale there is no length to give the arrow: it is left out. So is a
+    // value that is only the rounding left by turning a velocity or force along a
+    // line of centres that runs along x: it would draw barbs without a shaft,
+    // pointing across a motion that has no such component.
+    if (value == 0 || !(scale > 0) || std::fabs(value) <= scale * NegligibleShare)
         return;
     const float length = static_cast<float>(double(ArrowLength) * value / scale);
     const float direction = Numeric::sign(value);

@@ -20,6 +20,8 @@ public:
     // of each barb.
     static constexpr float ArrowLength = 250.0f;
     static constexpr float BarbLength = 50.0f;
+    // A value this share of the scale or less is rounding, not motion or force.
+    static constexpr float NegligibleShare = 1e-5f;
 
     // The ground of the side view from the picture's present scale and background:
     // a dark red strip along the bottom twentieth of the picture.
@@ -43,7 +45,14 @@ public:
     void DrawBodies(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
                     int16_t page);
 
-    // The velocity and force arrows at the state's SimulationTime, as switched on.
+    // The speed and the force that get the longest arrow: the largest size of a
+    // component drawn on the page (x, and y from above), before and after the
+    // collision; 0 when nothing moves or pushes.
+    static float VelocityScale(const CollisionSetup& setup, const CollisionState& state, int16_t page);
+    static float ForceScale(const CollisionState& state);
+
+    // The velocity and force arrows at the state's SimulationTime, as switched on,
+    // each pointing the way its body moves or is pushed.
     void DrawVectors(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
                      int16_t page);
 
@@ -53,7 +62,8 @@ public:
                         float scale, float colour);
 
     // One arrow from a body's centre along x (component 1) or y (component 2),
-    // ArrowLength x value / scale long. Nothing for a value or a scale of 0.
+    // ArrowLength x value / scale long. Nothing for a value or a scale of 0, nor for
+    // a value that is a negligible share of the scale.
     void DrawArrow(Canvas& canvas, int16_t component, float cx, float cy, float radius, float scale,
                    float value, float colour);
 

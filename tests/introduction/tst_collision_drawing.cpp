@@ -90,6 +90,41 @@ struct CollisionRig
     }
 };
 
+// A picture one device unit per twip that keeps the lines drawn on it, so that the
+// arrows can be read back exactly.
+class LineRecorder : public Canvas
+{
+public:
+    struct Segment
+    {
+        int32_t x1, y1, x2, y2;
+    };
+
+    LineRecorder() { setScale(0, 0, 4575, 4935); }
+    int32_t DeviceWidth() const override { return 4575; }
+    int32_t DeviceHeight() const override { return 4935; }
+    std::vector<Segment> lines;
+
+    // The shaft of the arrow from a body's centre along x (component 1) or up
+    // (component 2), as a signed length; 0 when there is none.
+    float shaft(float cx, float cy, int16_t component) const
+    {
+        for (const Segment& l : lines)
+            if (std::abs(l.x1 - int(cx)) <= 1 && std::abs(l.y1 - int(cy)) <= 1
+                && (component == 1 ? l.y2 == l.y1 && l.x2 != l.x1 : l.x2 == l.x1 && l.y2 != l.y1))
+                return component == 1 ? float(l.x2 - l.x1) : float(l.y1 - l.y2);
+        return 0;
+    }
+
+protected:
+    void clearDevice() override { lines.clear(); }
+    void segment(int32_t x1, int32_t y1, int32_t x2, int32_t y2, int32_t) override { lines.push_back({x1, y1, x2, y2}); }
+    void box(int32_t, int32_t, int32_t, int32_t, int32_t) override {}
+    void disc(double, double, double, int32_t) override {}
+    void dot(int32_t, int32_t, int32_t) override {}
+    void polygon(const std::vector<DevicePoint>&, int32_t) override {}
+};
+
 } // namespace
 
 class tst_collision_drawing : public QObject
@@ -101,6 +136,8 @@ private slots:
     void runErasesEverythingItMoves();
     void defaultSideViewPictureAndGraphPanels();
     void arrowsScaleToTheLargestValueAndZeroDrawsNothing();
+    void arrowsPointTheWayTheBodiesMoveAndArePushed_data();
+    void arrowsPointTheWayTheBodiesMoveAndArePushed();
     void zeroRangesDrawNothing();
     void contactZoom();
 };
@@ -222,6 +259,91 @@ void tst_collision_drawing::arrowsScaleToTheLargestValueAndZeroDrawsNothing()
     rig.scene.DrawArrow(c, 1, 1000, 1500, 133, 0, 100, Red);
     rig.scene.DrawArrow(c, 2, 1000, 1500, 133, 100, 0, Red);
     QCOMPARE(c.image(), blank);
+}
+
+void tst_collision_drawing::arrowsPointTheWayTheBodiesMoveAndArePushed_data()
+{
+    QTest::addColumn<int16_t>("page");
+    QTest::addColumn<int16_t>("model");
+    QTest::addColumn<QList<float>>("start"); // x1, x2, y1, y2, ux1, ux2, uy1, uy2
+    const QList<float> defaults = {0, 100, 0, 0, 100, 50, 0, 0};
+    const QList<float> restingFirst = {0, 100, 0, 0, 0, -50, 0, 0};
+    const QList<float> allLeft = {0, 100, 0, 0, -20, -100, 0, 0};
+    const QList<float> allLeftAndDown = {0, 100, 0, 20, -20, -100, -10, -30};
+    const QList<float> secondOnTheLeft = {100, 0, 0, 0, -50, 100, 0, 0};
+    for (int16_t model : {CollisionSetup::LinearModel, CollisionSetup::ContinuousVelocity,
+                          CollisionSetup::ContinuousForce}) {
+        const QByteArray m = "model " + QByteArray::number(model);
+        QTest::newRow(m + ", defaults") << SideView << model << defaults;
+        QTest::newRow(m + ", first body at rest") << SideView << model << restingFirst;
+        QTest::newRow(m + ", both moving left") << SideView << model << allLeft;
+        QTest::newRow(m + ", all left and down from above") << AboveView << model << allLeftAndDown;
+        QTest::newRow(m + ", second body on the left") << SideView << model << secondOnTheLeft;
+        QTest::newRow(m + ", second body on the left from above") << AboveView << model << secondOnTheLeft;
+    }
+}
+
+void tst_collision_drawing::arrowsPointTheWayTheBodiesMoveAndArePushed()
+{
+    QFETCH(int16_t, page);
+    QFETCH(int16_t, model);
+    QFETCH(QList<float>, start);
+    CollisionRig rig(model);
+    CollisionSetup& setup = rig.setup;
+    setup.X = {start[0], start[1]};
+    setup.Y = {start[2], start[3]};
+    setup.Ux = {start[4], start[5]};
+    setup.Uy = {start[6], start[7]};
+    QCOMPARE(rig.setUpPage(page), CollisionState::CodeReady);
+    CollisionState& state = rig.state;
+    CollisionScene& scene = rig.scene;
+
+    // Every tick of the run, and the contact's start itself (the linear model's spike).
+    QList<float> moments;
+    for (int k = 0; k <= 100; ++k)
+        moments << k * state.TimeStep;
+    moments << state.ContactStart;
+    float longestVelocity = 0;
+    float longestForce = 0;
+    for (const float t : moments) {
+        state.SimulationTime = t;
+        for (const int16_t quantity : {CollisionState::Velocity, CollisionState::Force}) {
+            setup.ShowVelocities = quantity == CollisionState::Velocity;
+            setup.ShowForces = quantity == CollisionState::Force;
+            LineRecorder picture;
+            scene.DrawVectors(picture, setup, state, page);
+            for (int16_t body = 1; body <= 2; ++body) {
+                // The way the body moves, or the way the other body pushes it: away
+                // from it along the line between their starting places.
+                const int16_t other = 3 - body;
+                const float away[2] = {setup.X[body] - setup.X[other], setup.Y[body] - setup.Y[other]};
+                for (int16_t component = 1; component <= (page == AboveView ? 2 : 1); ++component) {
+                    const float value = state.BodyState(component, quantity, body, t);
+                    const float arrow = picture.shaft(scene.BodyScreenX[body], scene.BodyScreenY[body], component);
+                    const QString where = QString("t=%1 body %2 component %3 quantity %4 value %5 arrow %6")
+                                              .arg(t).arg(body).arg(component).arg(quantity).arg(value).arg(arrow);
+                    QVERIFY2(std::fabs(arrow) <= CollisionScene::ArrowLength + 1, qPrintable(where));
+                    if (quantity == CollisionState::Velocity) {
+                        QVERIFY2(arrow * value >= 0, qPrintable(where));
+                        QVERIFY2(std::fabs(value) < 1 || arrow != 0, qPrintable(where));
+                        QVERIFY2(std::fabs(value) > 1e-3f || arrow == 0, qPrintable(where));
+                        longestVelocity = std::max(longestVelocity, std::fabs(arrow));
+                    } else {
+                        QVERIFY2(arrow * away[component - 1] >= 0, qPrintable(where));
+                        QVERIFY2(away[component - 1] != 0 || arrow == 0, qPrintable(where));
+                        QVERIFY2(component == 2 || (value != 0) == (arrow != 0), qPrintable(where));
+                        longestForce = std::max(longestForce, std::fabs(arrow));
+                    }
+                }
+            }
+        }
+    }
+    QNEAR(longestVelocity, CollisionScene::ArrowLength, 1);
+    // An oblique push splits into two shorter components.
+    if (setup.Y[1] == setup.Y[2])
+        QNEAR(longestForce, CollisionScene::ArrowLength, 1);
+    else
+        QVERIFY(longestForce > CollisionScene::ArrowLength / 2);
 }
 
 void tst_collision_drawing::zeroRangesDrawNothing()
