@@ -53,10 +53,19 @@ float ExperimentView::RunEnd() const
     return 2 * m_state.ContactStart;
 }
 
-void ExperimentView::StartCollisionRun()
+void ExperimentView::ClearZoom()
 {
     m_graphs.GraphZoomed = 0;
     m_graphs.ContactZoom = false;
+}
+
+void ExperimentView::StartCollisionRun()
+{
+    ClearZoom();
+    // A set-up made while a graph was enlarged laid the graphs out in the enlarged
+    // panel alone, leaving the run's own panels as an older layout left them.
+    if (m_graphs.GraphCount > 0)
+        m_graphs.LayoutGraphs(m_canvas, setup(), m_graphs.GraphCount);
     m_state.SimulationTime = 0;
     for (int16_t g = 1; g <= m_graphs.GraphCount; ++g)
         m_graphs.GraphRange(setup(), m_state, g, m_graphs.GraphQuantity[g], 0, RunEnd());
@@ -101,7 +110,11 @@ void ExperimentView::MouseUp(int16_t button, float y, bool runCompleted)
         leftClick(y, runCompleted);
         return;
     }
-    if (button != RightButton || m_graphs.GraphZoomed != 1)
+    // Only an enlarged graph on the screen can show its contact: that is after a
+    // finished run on the side view. A page set-up since then has drawn the scene,
+    // which a contact graph would replace with no way back; the view from above
+    // never shows a graph.
+    if (button != RightButton || m_graphs.GraphZoomed != 1 || m_page != 2 || !runCompleted)
         return;
     if (m_graphs.ContactZoom) {
         // Back from the contact to the whole run of the same graph.

@@ -43,8 +43,11 @@ public:
     // that have no message (the run stays blocked without a word).
     static QString CheckBoxText(int16_t code);
 
-    // Starts a run: clock at 0, no graph enlarged, graph ranges for the whole run,
-    // graph clocks and frames.
+    // Ends any enlarged graph: the start of every run, on any page, does this.
+    void ClearZoom();
+
+    // Starts a run: clock at 0, no graph enlarged, the graphs laid out in their own
+    // panels, graph ranges for the whole run, graph clocks and frames.
     void StartCollisionRun();
 
     // One tick: erases the bodies, advances the clock one step, moves and draws them
@@ -58,6 +61,8 @@ public:
     // A mouse button released over the picture: after a finished run on page 2, a
     // left click enlarges the graph under the pointer or returns to all graphs, and
     // a right click on an enlarged graph shows only the contact or the whole run.
+    // A left click on a picture set up while a graph was enlarged brings the scene
+    // back; a right click there does nothing.
     void MouseUp(int16_t button, float y, bool runCompleted);
 
     // The page set up last (1 or 2).

@@ -379,6 +379,9 @@ void frmIntroduction::CheckCollision()
 
 void frmIntroduction::StartSimulation()
 {
+    // Every start ends an enlarged graph, a liquid run's too, so that the side
+    // view's next set-up lays its graphs out in their own panels.
+    m_experiment->ClearZoom();
     if (onCollisionPage()) {
         m_experiment->StartCollisionRun();
         m_run->StartTimer();

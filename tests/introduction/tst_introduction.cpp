@@ -15,6 +15,7 @@
 #include "shell/GlobDef.h"
 #include "shell/MDIMain.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
@@ -116,6 +117,20 @@ void clickPicture(Qt::MouseButton which, float twipsY)
     QTest::mouseClick(picture(), which, {}, QPoint(100, int(twipsY / 15)));
 }
 
+QImage shownPicture()
+{
+    return picture()->canvas().image();
+}
+
+// Ticks a started collision run through to its end.
+void runToTheEnd()
+{
+    RunControl& run = intro().Run();
+    for (int ticks = 0; run.Timer1().isActive() && ticks < 1000; ++ticks)
+        run.Timer1_Timer();
+    QVERIFY(run.RunCompleted());
+}
+
 } // namespace
 
 class IntroductionTest : public QObject
@@ -131,6 +146,8 @@ private slots:
     void liquidPagesShowTheVesselAndTheirMolecules();
     void aLiquidRunKeepsItsGroupsApartUntilFinishOrExit();
     void aDefaultRunStopsByItselfAndItsGraphsZoom();
+    void aStartEndsAnEnlargedGraphOnEveryPage();
+    void aPageSetUpAlwaysLeavesTheSceneWithinReach();
     void theTimerRunsTheExperimentAtTheDelayBarsPace();
     void pauseStepNextAndRestoreActOnTheClock();
     void optionsOpensTheDialogOfThePage();
@@ -424,6 +441,77 @@ void IntroductionTest::aDefaultRunStopsByItselfAndItsGraphsZoom()
     button(6)->click();
     QVERIFY(button(5)->isEnabled());
     QVERIFY(!run.RunCompleted());
+}
+
+void IntroductionTest::aStartEndsAnEnlargedGraphOnEveryPage()
+{
+    // Two graphs, a finished run, one of them enlarged.
+    ModalAnswerer answerer([](QWidget* modal) {
+        modal->findChild<QCheckBox*>("chkGraphS")->setChecked(false);
+        modal->findChild<QPushButton*>("cmdCommand(0)")->click();
+    });
+    goTo(3, 2);
+    button(7)->click();
+    CollisionGraphs& graphs = intro().Experiment().Graphs();
+    QCOMPARE(graphs.GraphCount, int16_t(2));
+    button(5)->click();
+    runToTheEnd();
+    clickPicture(Qt::LeftButton, (graphs.PanelTop[1] + graphs.PanelBottom[1]) / 2);
+    QCOMPARE(graphs.GraphZoomed, int16_t(1));
+
+    // A liquid run starts and finishes.
+    goTo(2, 6);
+    button(5)->click();
+    QCOMPARE(graphs.GraphZoomed, int16_t(0));
+    QVERIFY(!graphs.ContactZoom);
+    button(5)->click();
+
+    // Back on the side view with the default three graphs, each has its own panel.
+    button(4)->click();
+    button(3)->click();
+    QCOMPARE(graphs.GraphCount, int16_t(3));
+    const float h = 3 * 4935 / 12.0f;
+    const float margin = 0.02f * 4575;
+    for (int16_t g = 1; g <= 3; ++g) {
+        QCOMPARE(graphs.PanelTop[g], (g - 1) * h + margin);
+        QCOMPARE(graphs.PanelBottom[g], graphs.PanelTop[g] + h - margin);
+    }
+}
+
+void IntroductionTest::aPageSetUpAlwaysLeavesTheSceneWithinReach()
+{
+    goTo(3, 2);
+    CollisionGraphs& graphs = intro().Experiment().Graphs();
+    const float middleOfPanel2 = (graphs.PanelTop[2] + graphs.PanelBottom[2]) / 2;
+    button(5)->click();
+    runToTheEnd();
+    const QImage afterARun = shownPicture();
+
+    // After Go To, and after the dialog, the set-up's scene stays whatever is clicked,
+    // and a new run draws over nothing but that scene.
+    for (const bool viaOptions : {false, true}) {
+        clickPicture(Qt::LeftButton, middleOfPanel2);
+        QCOMPARE(graphs.GraphZoomed, int16_t(1));
+        ModalAnswerer answerer([](QWidget* modal) { modal->findChild<QPushButton*>("cmdCommand(0)")->click(); });
+        button(viaOptions ? 7 : 6)->click();
+        const QImage scene = shownPicture();
+        for (const Qt::MouseButton which : {Qt::RightButton, Qt::RightButton, Qt::LeftButton}) {
+            clickPicture(which, middleOfPanel2);
+            QVERIFY(shownPicture() == scene);
+        }
+        button(5)->click();
+        runToTheEnd();
+        QVERIFY(shownPicture() == afterARun);
+    }
+
+    // The view from above never shows a graph, also with a zoom carried over.
+    clickPicture(Qt::LeftButton, middleOfPanel2);
+    goTo(3, 1);
+    const QImage above = shownPicture();
+    for (const Qt::MouseButton which : {Qt::RightButton, Qt::RightButton, Qt::LeftButton, Qt::RightButton}) {
+        clickPicture(which, middleOfPanel2);
+        QVERIFY(shownPicture() == above);
+    }
 }
 
 void IntroductionTest::theTimerRunsTheExperimentAtTheDelayBarsPace()
