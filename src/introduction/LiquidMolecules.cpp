@@ -32,11 +32,18 @@ void LiquidMolecules::Lay(Canvas& canvas, const Layout& layout)
     m_GroupLeft = {0, VesselLeft, VesselMiddle};
     m_GroupRight = {0, VesselMiddle, VesselRight};
     const float depth = VesselBottom - layout.liquidLevel;
+    // Rows lie one above the other and columns side by side, as the learner counts
+    // them in the options. Each group starts in its own half of the vessel: the
+    // columns are shared out between the halves (the left takes an odd one) and
+    // spread evenly across each, so that no molecule stands on the partition.
+    const int16_t leftColumns = int16_t((layout.columns + 1) / 2);
+    const float halfWidth = VesselMiddle - VesselLeft;
     for (int16_t i = 1; i <= layout.rows; ++i) {
         for (int16_t j = 1; j <= layout.columns; ++j) {
+            const int16_t group = j <= leftColumns ? 1 : 2;
+            const int16_t place = group == 1 ? j : int16_t(j - leftColumns);
+            const int16_t columnsInHalf = group == 1 ? leftColumns : int16_t(layout.columns - leftColumns);
             auto molecule = std::make_unique<Particle>();
-            const float x = VesselLeft + (i - 0.5f) * (VesselRight - VesselLeft) / layout.rows;
-            const int16_t group = x < VesselMiddle ? 1 : 2;
             molecule->setCanvas(&canvas);
             molecule->setWall(NoWall);
             // Drawn in copy mode over the vessel picture, a molecule shows its
@@ -44,8 +51,8 @@ void LiquidMolecules::Lay(Canvas& canvas, const Layout& layout)
             molecule->setColor(layout.groupColor[group - 1] ^ canvas.BackColor());
             molecule->setRadius(layout.radius);
             molecule->setFillStyle(0);
-            molecule->setXcoord(x);
-            molecule->setYcoord(layout.liquidLevel + (j - 0.5f) * depth / layout.columns);
+            molecule->setXcoord(m_GroupLeft[group] + (place - 0.5f) * halfWidth / columnsInHalf);
+            molecule->setYcoord(layout.liquidLevel + (i - 0.5f) * depth / layout.rows);
             m_molecules.push_back(std::move(molecule));
             m_group.push_back(group);
         }
@@ -75,6 +82,13 @@ const Particle& LiquidMolecules::Molecule(int16_t k) const
     if (k < 1 || k > MoleculeCount())
         throw RunTimeError::subscriptOutOfRange();
     return *m_molecules[size_t(k - 1)];
+}
+
+int16_t LiquidMolecules::Group(int16_t k) const
+{
+    if (k < 1 || k > MoleculeCount())
+        throw RunTimeError::subscriptOutOfRange();
+    return m_group[size_t(k - 1)];
 }
 
 void LiquidMolecules::Step()

@@ -9,9 +9,10 @@
 
 class Canvas;
 
-// The molecules of a liquid page: rows x columns discs laid out evenly in the
-// vessel below the liquid's surface, the left half of them (group 1) kept left of
-// the partition and the right half (group 2) right of it until the partition is
+// The molecules of a liquid page: rows x columns discs laid out in the vessel below
+// the liquid's surface, rows one above the other and columns side by side, the
+// columns of the left half (group 1) kept left of the partition and those of the
+// right half (group 2) right of it until the partition is
 // removed, when both groups may use the whole vessel. They move freely, rebound
 // from the vessel's walls, its bottom and the surface, and collide elastically with
 // each other. Plain C++: draws only through its Canvas; faults throw RunTimeError.
@@ -36,8 +37,11 @@ public:
         int32_t groupColor[2] = {}; // whole RGB numbers of group 1 and 2
     };
 
-    // Replaces the molecules by a fresh even grid; rows x columns above the number
-    // of slots is a subscript fault. The first index runs along x.
+    // Replaces the molecules by a fresh grid; rows x columns above the number of
+    // slots is a subscript fault. Molecule k = (row - 1) x columns + column; row 1
+    // lies just below the surface, column 1 at the left wall. The left half takes
+    // the first (columns + 1) / 2 columns, the right half the others, each spread
+    // evenly across its own half.
     void Lay(Canvas& canvas, const Layout& layout);
 
     // Releases every molecule.
@@ -55,6 +59,8 @@ public:
     // The number of molecules, and molecule k (1 to MoleculeCount).
     int16_t MoleculeCount() const { return int16_t(m_molecules.size()); }
     const Particle& Molecule(int16_t k) const;
+    // The group (1 left, 2 right) molecule k belongs to.
+    int16_t Group(int16_t k) const;
 
     // The horizontal bounds of group 1 and 2 (index 1 and 2).
     float GroupLeft(int16_t group) const { return m_GroupLeft.at(group); }

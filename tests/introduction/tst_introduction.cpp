@@ -145,6 +145,7 @@ private slots:
     void collisionPagesShowTheirTextsAndTheirCheck();
     void liquidPagesShowTheVesselAndTheirMolecules();
     void aLiquidRunKeepsItsGroupsApartUntilFinishOrExit();
+    void liquidMoleculesStartInRowsAndInTheirOwnHalves();
     void aDefaultRunStopsByItselfAndItsGraphsZoom();
     void aStartEndsAnEnlargedGraphOnEveryPage();
     void aPageSetUpAlwaysLeavesTheSceneWithinReach();
@@ -303,10 +304,12 @@ void IntroductionTest::liquidPagesShowTheVesselAndTheirMolecules()
     QCOMPARE(intro().findChild<QGroupBox*>("fraDraw")->title(), QString());
     const LiquidMolecules& molecules = liquid.Molecules();
     QCOMPARE(molecules.MoleculeCount(), int16_t(30));
-    // An even grid, the first index along x: 6 columns across, 5 rows down.
-    QCOMPARE(molecules.Molecule(1).Xcoord(), 1000 + 0.5f * 2480 / 6);
-    QCOMPARE(molecules.Molecule(1).Ycoord(), 2600 + 0.5f * 1825 / 5);
-    QCOMPARE(molecules.Molecule(6).Xcoord(), 1000 + 1.5f * 2480 / 6);
+    // 6 rows down, 5 columns across: three in the left half, two in the right.
+    QCOMPARE(molecules.Molecule(1).Xcoord(), 1000 + 0.5f * 1240 / 3);
+    QCOMPARE(molecules.Molecule(1).Ycoord(), 2600 + 0.5f * 1825 / 6);
+    QCOMPARE(molecules.Molecule(2).Xcoord(), 1000 + 1.5f * 1240 / 3);
+    QCOMPARE(molecules.Molecule(4).Xcoord(), 2240 + 0.5f * 1240 / 2);
+    QCOMPARE(molecules.Molecule(6).Ycoord(), 2600 + 1.5f * 1825 / 6);
     QCOMPARE(molecules.Molecule(1).radius(), int16_t(150));
     QCOMPARE(molecules.GroupRight(1), 2240.0f);
     // Each group shows in its own colour over the picture.
@@ -366,7 +369,7 @@ void IntroductionTest::aLiquidRunKeepsItsGroupsApartUntilFinishOrExit()
         const float x = molecule.Xcoord();
         QVERIFY(x > 1000 - 40 && x < 3480 + 40);
         QVERIFY(molecule.Ycoord() > 2100 - 40 && molecule.Ycoord() < 4425 + 40);
-        QVERIFY((x < 2240 + 40) == (k <= 15));
+        QVERIFY((x < 2240) == (molecules.Group(k) == 1));
     }
     button(9)->click();
     QCOMPARE(hintOf(button(8)), QString("Next snapshot of simulation process"));
@@ -389,6 +392,42 @@ void IntroductionTest::aLiquidRunKeepsItsGroupsApartUntilFinishOrExit()
     Form<MDIMain>().ShowChild(&intro());
     QCOMPARE(intro().CurrentUnit(), int16_t(1));
     QVERIFY(!intro().Run().Timer1().isActive());
+}
+
+void IntroductionTest::liquidMoleculesStartInRowsAndInTheirOwnHalves()
+{
+    const LiquidMolecules& molecules = intro().Liquid().Molecules();
+    for (const auto& [page, rows, columns] : {std::tuple{6, 6, 5}, {6, 4, 1}, {8, 1, 3}, {6, 5, 5}, {8, 3, 4}}) {
+        // The learner sets the counts in the page's options.
+        ModalAnswerer answerer([&](QWidget* modal) {
+            type(modal->findChild<QLineEdit*>("txtNoOfRows"), QString::number(rows));
+            type(modal->findChild<QLineEdit*>("txtNoOfColumns"), QString::number(columns));
+            modal->findChild<QPushButton*>("cmdCommand(0)")->click();
+        });
+        goTo(2, page);
+        button(7)->click();
+        const QString counts = QString("page %1, %2 x %3").arg(page).arg(rows).arg(columns);
+        QVERIFY2(molecules.MoleculeCount() == rows * columns, qPrintable(counts));
+        QSet<float> xs, ys;
+        for (int16_t k = 1; k <= molecules.MoleculeCount(); ++k) {
+            const Particle& molecule = molecules.Molecule(k);
+            const int16_t group = molecules.Group(k);
+            const int row = (k - 1) / columns;
+            const int column = (k - 1) % columns;
+            xs << molecule.Xcoord();
+            ys << molecule.Ycoord();
+            // Rows go down, columns across; the left half holds the first columns.
+            if (column > 0)
+                QVERIFY2(molecule.Xcoord() > molecules.Molecule(k - 1).Xcoord(), qPrintable(counts));
+            if (row > 0)
+                QVERIFY2(molecule.Ycoord() > molecules.Molecule(int16_t(k - columns)).Ycoord(), qPrintable(counts));
+            QVERIFY2(molecule.Xcoord() - molecule.radius() >= molecules.GroupLeft(group), qPrintable(counts));
+            QVERIFY2(molecule.Xcoord() + molecule.radius() <= molecules.GroupRight(group), qPrintable(counts));
+            QVERIFY2(molecule.Ycoord() - molecule.radius() >= intro().Liquid().LiquidLevel(), qPrintable(counts));
+            QVERIFY2((group == 1) == (column < (columns + 1) / 2), qPrintable(counts));
+        }
+        QVERIFY2(xs.size() == columns && ys.size() == rows, qPrintable(counts));
+    }
 }
 
 void IntroductionTest::aDefaultRunStopsByItselfAndItsGraphsZoom()
