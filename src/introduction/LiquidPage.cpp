@@ -1,5 +1,7 @@
 #include "LiquidPage.h"
 
+#include "PictureFile.h"
+
 #include "canvas/ImageCanvas.h"
 #include "canvas/Rgb.h"
 #include "core/Numeric.h"
@@ -40,15 +42,23 @@ void LiquidPage::PrepareLiquidPage(int16_t page)
     DrawLiquidPage();
 }
 
+void LiquidPage::setPictureFolder(const QString& folder)
+{
+    m_pictureFolder = folder;
+}
+
 void LiquidPage::loadPicture(const QString& name)
 {
-    const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(name);
-    QImage picture(path);
-    if (picture.isNull()) {
+    const QString folder = m_pictureFolder.isEmpty() ? QCoreApplication::applicationDirPath() : m_pictureFolder;
+    const PictureFile file(QDir(folder).filePath(name));
+    if (file.status() != PictureFile::Status::Read) {
+        // A damaged picture is left out whole rather than shown in part.
         m_canvas.setPicture(QImage());
-        SetStatusLine(QStringLiteral("The picture %1 is missing: the vessel is shown without it").arg(name));
+        SetStatusLine(
+            QStringLiteral("The picture %1 %2: the vessel is shown without it").arg(name, file.problem()));
         return;
     }
+    QImage picture = file.image();
     // The picture is drawn in device pixels: on a high-density screen it is
     // enlarged to keep its place under the picture's twips.
     const double ratio = m_canvas.DeviceWidth() * 15.0 / m_canvas.ScaleWidth();

@@ -22,9 +22,13 @@ public:
     explicit LiquidPage(ImageCanvas& canvas);
 
     // Sets the page up (surface level, molecules, background picture, partition)
-    // and draws it. A missing picture leaves the page without a background and
-    // says so in the status line.
+    // and draws it. A missing or unreadable picture leaves the page without a
+    // background and says in the status line what is wrong.
     void PrepareLiquidPage(int16_t page);
+
+    // The folder the pictures are read from; empty (the default) for the
+    // program's own folder.
+    void setPictureFolder(const QString& folder);
 
     // Draws the page again: background, partition, surface and molecules.
     void DrawLiquidPage();
@@ -48,6 +52,7 @@ private:
     void loadPicture(const QString& name);
 
     ImageCanvas& m_canvas;
+    QString m_pictureFolder;
     LiquidMolecules m_molecules;
     int16_t m_page = 0;
     int16_t m_LiquidLevel = 0;

@@ -2,6 +2,7 @@
 #include "WindowChecks.h"
 
 #include "canvas/CanvasWidget.h"
+#include "canvas/Rgb.h"
 #include "core/ScopedRandomSequence.h"
 #include "introduction/IntroductionBook.h"
 #include "introduction/OptionsWidgets.h"
@@ -25,6 +26,7 @@
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QScrollBar>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <optional>
@@ -146,6 +148,8 @@ private slots:
     void liquidPagesShowTheVesselAndTheirMolecules();
     void aLiquidRunKeepsItsGroupsApartUntilFinishOrExit();
     void liquidMoleculesStartInRowsAndInTheirOwnHalves();
+    void aDamagedVesselPictureIsNamedAndLeftOut_data();
+    void aDamagedVesselPictureIsNamedAndLeftOut();
     void aDefaultRunStopsByItselfAndItsGraphsZoom();
     void aStartEndsAnEnlargedGraphOnEveryPage();
     void aPageSetUpAlwaysLeavesTheSceneWithinReach();
@@ -428,6 +432,61 @@ void IntroductionTest::liquidMoleculesStartInRowsAndInTheirOwnHalves()
         }
         QVERIFY2(xs.size() == columns && ys.size() == rows, qPrintable(counts));
     }
+}
+
+void IntroductionTest::aDamagedVesselPictureIsNamedAndLeftOut_data()
+{
+    QFile real(QDir(QCoreApplication::applicationDirPath()).filePath("pot_t2.bmp"));
+    QVERIFY(real.open(QIODevice::ReadOnly));
+    const QByteArray whole = real.readAll();
+    QByteArray garbage(4000, 0);
+    for (int i = 0; i < garbage.size(); ++i)
+        garbage[i] = char((i * 7919 + 13) % 251);
+    QByteArray scrambledHeader = whole;
+    scrambledHeader.replace(14, 40, QByteArray(40, char(0xFF)));
+
+    QTest::addColumn<bool>("present");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("problem"); // empty: the picture is shown
+    QTest::newRow("whole") << true << whole << QString();
+    QTest::newRow("cut to half") << true << whole.left(whole.size() / 2) << "cannot be read";
+    QTest::newRow("cut by a byte") << true << whole.chopped(1) << "cannot be read";
+    QTest::newRow("empty") << true << QByteArray() << "cannot be read";
+    QTest::newRow("garbage") << true << garbage << "cannot be read";
+    QTest::newRow("garbled header") << true << scrambledHeader << "cannot be read";
+    QTest::newRow("missing") << false << QByteArray() << "is missing";
+}
+
+void IntroductionTest::aDamagedVesselPictureIsNamedAndLeftOut()
+{
+    QFETCH(bool, present);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, problem);
+    QTemporaryDir folder;
+    if (present) {
+        QFile file(folder.filePath("pot_t2.bmp"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    intro().Liquid().setPictureFolder(folder.path());
+    SetStatusLine(QString());
+    goTo(2, 6);
+
+    ImageCanvas& canvas = picture()->canvas();
+    if (problem.isEmpty()) {
+        QVERIFY(canvas.hasPicture());
+        QCOMPARE(Form<MDIMain>().statusLine(), QString());
+        return;
+    }
+    QVERIFY(!canvas.hasPicture());
+    QCOMPARE(Form<MDIMain>().statusLine(),
+        QString("The picture pot_t2.bmp %1: the vessel is shown without it").arg(problem));
+    // Above the liquid nothing is drawn: no part of a broken picture shows there.
+    const QImage shown = canvas.image();
+    for (int y = 0; y < int(canvas.toDeviceY(2500)); ++y)
+        for (int x = 0; x < shown.width(); ++x)
+            QVERIFY(shown.pixel(x, y) == shown.pixel(0, 0));
+    QCOMPARE(canvas.pixelColor(0, 0), Rgb::RGB(255, 255, 255));
 }
 
 void IntroductionTest::aDefaultRunStopsByItselfAndItsGraphsZoom()

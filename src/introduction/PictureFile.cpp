@@ -1,0 +1,76 @@
+#include "PictureFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QtEndian>
+
+#include <cstdlib>
+
+namespace {
+
+// The fields of a BMP's file and information headers that size its pixel data.
+constexpr qint64 FileHeaderSize = 14;
+constexpr qint64 InfoHeaderSize = 40;
+constexpr quint32 Uncompressed = 0;
+constexpr quint32 BitFields = 3;
+
+quint32 readU32(const QByteArray& bytes, int offset)
+{
+    return qFromLittleEndian<quint32>(bytes.constData() + offset);
+}
+
+} // namespace
+
+PictureFile::PictureFile(const QString& path)
+{
+    if (!QFileInfo(path).isFile())
+        return;
+    m_status = Status::Unreadable;
+    QImageReader reader(path);
+    const QByteArray format = reader.format(); // known only before the read
+    QImage image = reader.read();
+    if (image.isNull())
+        return;
+    if (format == "bmp" && !bmpComplete(path))
+        return;
+    m_image = std::move(image);
+    m_status = Status::Read;
+}
+
+QString PictureFile::problem() const
+{
+    switch (m_status) {
+    case Status::Missing:
+        return QStringLiteral("is missing");
+    case Status::Unreadable:
+        return QStringLiteral("cannot be read");
+    default:
+        return QString();
+    }
+}
+
+bool PictureFile::bmpComplete(const QString& path)
+{
+    // A BMP cut short still reads: the reader makes up the missing rows, which
+    // show black. Its headers say how many bytes the rows take.
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray header = file.read(FileHeaderSize + InfoHeaderSize);
+    if (header.size() < FileHeaderSize + InfoHeaderSize)
+        return false;
+    const quint32 pixelOffset = readU32(header, 10);
+    const quint32 infoSize = readU32(header, 14);
+    if (infoSize < InfoHeaderSize)
+        return true; // an old OS/2 header: the reader's own checks must do
+    const qint64 width = qint32(readU32(header, 18));
+    const qint64 height = std::llabs(qint32(readU32(header, 22)));
+    const qint64 bitsPerPixel = qFromLittleEndian<quint16>(header.constData() + 28);
+    const quint32 compression = readU32(header, 30);
+    const qint64 imageSize = readU32(header, 34);
+    qint64 pixelBytes = imageSize;
+    if (compression == Uncompressed || compression == BitFields)
+        pixelBytes = (width * bitsPerPixel + 31) / 32 * 4 * height;
+    return file.size() >= qint64(pixelOffset) + pixelBytes;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+// A background picture read from a file, with what is wrong when it cannot be
+// shown: the file is missing, or it is there but cannot be read (empty, garbled,
+// or a BMP cut short, whose rows would be made up as black).
+class PictureFile
+{
+public:
+    enum class Status { Read, Missing, Unreadable };
+
+    // Reads the picture at path; the image stays null unless the status is Read.
+    explicit PictureFile(const QString& path);
+
+    Status status() const { return m_status; }
+    const QImage& image() const { return m_image; }
+
+    // What is wrong, to follow the picture's name in a message: "is missing" or
+    // "cannot be read"; empty for a picture that was read.
+    QString problem() const;
+
+private:
+    static bool bmpComplete(const QString& path);
+
+    Status m_status = Status::Missing;
+    QImage m_image;
+};
