@@ -1,8 +1,8 @@
 #include "RunControl.h"
 
 #include "core/Numeric.h"
-#include "shell/HandlerGuard.h"
-#include "shell/StatusHints.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/StatusHints.h"
 
 #include <QPushButton>
 #include <QScrollBar>

@@ -2,14 +2,14 @@
 
 #include "TickDriver.h"
 
-#include "canvas/CanvasWidget.h"
+#include "widgets/CanvasWidget.h"
 #include "canvas/Rgb.h"
 #include "core/Numeric.h"
 #include "model/Gas.h"
-#include "shell/FormLayout.h"
-#include "shell/Forms.h"
-#include "shell/HandlerGuard.h"
-#include "shell/suppl.h"
+#include "widgets/FormLayout.h"
+#include "widgets/WindowRelease.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/suppl.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -252,7 +252,7 @@ void frmMicroView::cmdCommand_Click(int Index)
     case 0:
         SimulationTimer->setEnabled(false);
         DestroySample();
-        Unload<frmMicroView>();
+        CloseAndRelease(this);
         break;
     case 1:
         if (cmdCommand[1]->text() == QLatin1String("Simulate")) {
