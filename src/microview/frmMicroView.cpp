@@ -255,14 +255,10 @@ void frmMicroView::cmdCommand_Click(int Index)
         CloseAndRelease(this);
         break;
     case 1:
-        if (cmdCommand[1]->text() == QLatin1String("Simulate")) {
-            cmdCommand[1]->setToolTip("Click to pause simulation");
-            InitialiseCounters();
-            cmdCommand[1]->setText("Pause");
-            SimulationTimer->setEnabled(true);
-        } else if (cmdCommand[1]->text() == QLatin1String("Pause")) {
+        if (m_running)
             pause();
-        }
+        else
+            simulate();
         break;
     case 2:
         ClearHistory();
@@ -272,11 +268,21 @@ void frmMicroView::cmdCommand_Click(int Index)
     }
 }
 
+void frmMicroView::simulate()
+{
+    m_running = true;
+    cmdCommand[1]->setToolTip(tr("Click to pause simulation"));
+    InitialiseCounters();
+    cmdCommand[1]->setText(tr("Pause"));
+    SimulationTimer->setEnabled(true);
+}
+
 void frmMicroView::pause()
 {
-    cmdCommand[1]->setToolTip("Click to begin simulation");
+    m_running = false;
+    cmdCommand[1]->setToolTip(tr("Click to begin simulation"));
     SimulationTimer->setEnabled(false);
-    cmdCommand[1]->setText("Simulate");
+    cmdCommand[1]->setText(tr("Simulate"));
 }
 
 void frmMicroView::HScrNoOfMolecules_Change(int Index)
