@@ -4,11 +4,11 @@
 #include "ProgramImages.h"
 
 #include "core/Twips.h"
-#include "shell/FormLayout.h"
-#include "shell/Forms.h"
-#include "shell/GlobDef.h"
-#include "shell/HandlerGuard.h"
-#include "shell/StatusHints.h"
+#include "widgets/FormLayout.h"
+#include "widgets/WindowRelease.h"
+#include "widgets/StatusLine.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/StatusHints.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -150,7 +150,7 @@ void frmIdentify::ShowAbout()
 {
     installHints();
     exec();
-    Unload<frmIdentify>();
+    CloseAndRelease(this);
 }
 
 void frmIdentify::installHints()
@@ -178,7 +178,7 @@ void frmIdentify::EffectTimer_Timer()
                 }
                 setFraIdentifyTop(top);
             } else if (m_EffectTimer.interval() == RestInterval) {
-                ShowMainWindow();
+                emit splashFinished();
             }
         },
         [this] { m_EffectTimer.stop(); });
@@ -186,7 +186,7 @@ void frmIdentify::EffectTimer_Timer()
 
 void frmIdentify::cmdClose_Click()
 {
-    Unload<frmIdentify>();
+    CloseAndRelease(this);
 }
 
 void frmIdentify::setFraIdentifyTop(int twips)
@@ -215,12 +215,12 @@ void frmIdentify::setLogoBorderStyle(int style)
 void frmIdentify::closeEvent(QCloseEvent* event)
 {
     // Closing the splash by hand would leave the program with no window at all and
-    // nothing left to open one, so it ends the program instead.
-    const bool splashClosedByUser = event->spontaneous() && m_EffectTimer.isActive();
+    // nothing left to open one, so the application ends the program instead.
+    const bool closedByHand = event->spontaneous() && m_EffectTimer.isActive();
     m_EffectTimer.stop();
     QDialog::closeEvent(event);
-    if (splashClosedByUser)
-        EndProgram();
+    if (closedByHand)
+        emit splashClosedByUser();
 }
 
 bool frmIdentify::eventFilter(QObject* watched, QEvent* event)

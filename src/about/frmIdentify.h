@@ -50,6 +50,12 @@ public:
     // whatever lies below is cut off.
     void setOuterHeight(int twips);
 
+signals:
+    // The splash has rested and hands over to the main frame.
+    void splashFinished();
+    // The user closed the splash by its close box.
+    void splashClosedByUser();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

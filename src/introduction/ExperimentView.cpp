@@ -3,22 +3,14 @@
 #include "canvas/Canvas.h"
 #include "model/CollisionSetup.h"
 
-namespace {
-
-CollisionSetup& setup()
-{
-    return CollisionSetup::global();
-}
-
-} // namespace
-
-ExperimentView::ExperimentView(Canvas& canvas) : m_canvas(canvas), m_state(CollisionSetup::global())
+ExperimentView::ExperimentView(Canvas& canvas, CollisionSetup& setup)
+    : m_canvas(canvas), m_setup(setup), m_state(setup)
 {
 }
 
 void ExperimentView::InitialiseCollision()
 {
-    CollisionSetup& parameters = setup();
+    CollisionSetup& parameters = m_setup;
     parameters.useDefaultColours();
     parameters.Mass[1] = 10;
     parameters.Mass[2] = 15;
@@ -32,14 +24,14 @@ void ExperimentView::InitialiseCollision()
 void ExperimentView::SetUpPage(int16_t page)
 {
     m_page = page;
-    m_graphs.BuildGraphList(m_canvas, setup(), page);
+    m_graphs.BuildGraphList(m_canvas, m_setup, page);
 }
 
 int16_t ExperimentView::CheckCollision()
 {
     const int16_t code = m_state.ComputeCollision(m_page);
-    m_scene.ComputeViewport(m_canvas, setup(), m_state, m_page);
-    m_scene.DrawCollisionScene(m_canvas, setup(), m_state, m_page);
+    m_scene.ComputeViewport(m_canvas, m_setup, m_state, m_page);
+    m_scene.DrawCollisionScene(m_canvas, m_setup, m_state, m_page);
     return code;
 }
 
@@ -68,14 +60,14 @@ void ExperimentView::StartCollisionRun()
         m_graphs.LayoutGraphs(m_canvas, setup(), m_graphs.GraphCount);
     m_state.SimulationTime = 0;
     for (int16_t g = 1; g <= m_graphs.GraphCount; ++g)
-        m_graphs.GraphRange(setup(), m_state, g, m_graphs.GraphQuantity[g], 0, RunEnd());
+        m_graphs.GraphRange(m_setup, m_state, g, m_graphs.GraphQuantity[g], 0, RunEnd());
     m_graphs.StartGraphClocks(m_state);
     m_graphs.DrawGraphFrames(m_canvas, m_graphs.GraphCount);
 }
 
 bool ExperimentView::Tick()
 {
-    m_scene.DrawBodies(m_canvas, setup(), m_state, m_page);
+    m_scene.DrawBodies(m_canvas, m_setup, m_state, m_page);
     m_state.SimulationTime += m_state.TimeStep;
     for (int16_t body = 1; body <= 2; ++body) {
         const float x = m_state.BodyState(CollisionState::ComponentX, CollisionState::Position, body,
@@ -88,8 +80,8 @@ bool ExperimentView::Tick()
             m_scene.BodyScreenY[body] = m_scene.ScreenY(y);
         }
     }
-    m_scene.DrawBodies(m_canvas, setup(), m_state, m_page);
-    m_graphs.DrawGraphStep(m_canvas, setup(), m_state);
+    m_scene.DrawBodies(m_canvas, m_setup, m_state, m_page);
+    m_graphs.DrawGraphStep(m_canvas, m_setup, m_state);
     if (RunEnd() <= m_state.SimulationTime) {
         m_state.SimulationTime = 0;
         return true;
@@ -99,9 +91,9 @@ bool ExperimentView::Tick()
 
 void ExperimentView::Paint(bool runCompleted)
 {
-    m_scene.DrawCollisionScene(m_canvas, setup(), m_state, m_page);
+    m_scene.DrawCollisionScene(m_canvas, m_setup, m_state, m_page);
     if (m_page == 2 && runCompleted)
-        m_graphs.RedrawGraphs(m_canvas, setup(), m_state);
+        m_graphs.RedrawGraphs(m_canvas, m_setup, m_state);
 }
 
 void ExperimentView::MouseUp(int16_t button, float y, bool runCompleted)
@@ -125,7 +117,7 @@ void ExperimentView::MouseUp(int16_t button, float y, bool runCompleted)
     m_graphs.ContactZoom = true;
     const float contact = m_state.ContactStart;
     const float step = m_state.TimeStep;
-    m_graphs.ZoomGraph(m_canvas, setup(), m_state, contact - 12 * step / 2, contact + 36 * step / 2);
+    m_graphs.ZoomGraph(m_canvas, m_setup, m_state, contact - 12 * step / 2, contact + 36 * step / 2);
 }
 
 void ExperimentView::leftClick(float y, bool runCompleted)
@@ -147,5 +139,5 @@ void ExperimentView::leftClick(float y, bool runCompleted)
         m_graphs.SelectedGraph = g;
     }
     m_graphs.GraphZoomed = 1;
-    m_graphs.ZoomGraph(m_canvas, setup(), m_state, 0, RunEnd());
+    m_graphs.ZoomGraph(m_canvas, m_setup, m_state, 0, RunEnd());
 }

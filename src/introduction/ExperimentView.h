@@ -23,8 +23,9 @@ public:
     static constexpr int16_t LeftButton = 1;
     static constexpr int16_t RightButton = 2;
 
-    // A view that draws on the introduction's picture, which outlives it.
-    explicit ExperimentView(Canvas& canvas);
+    // A view that draws on the introduction's picture and runs the given set-up;
+    // both outlive it.
+    ExperimentView(Canvas& canvas, CollisionSetup& setup);
 
     // The experiment's first set-up when the introduction loads, after the
     // defaults: current colours from the defaults, the default masses, x velocities
@@ -78,6 +79,7 @@ private:
     float RunEnd() const;
 
     Canvas& m_canvas;
+    CollisionSetup& m_setup;
     CollisionState m_state;
     CollisionScene m_scene;
     CollisionGraphs m_graphs;

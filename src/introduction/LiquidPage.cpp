@@ -5,8 +5,8 @@
 #include "canvas/ImageCanvas.h"
 #include "canvas/Rgb.h"
 #include "core/Numeric.h"
-#include "shell/FluidParameters.h"
-#include "shell/GlobDef.h"
+#include "model/FluidParameters.h"
+#include "widgets/StatusLine.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,7 +18,7 @@ constexpr int32_t White = Rgb::RGB(255, 255, 255);
 
 } // namespace
 
-LiquidPage::LiquidPage(ImageCanvas& canvas) : m_canvas(canvas)
+LiquidPage::LiquidPage(ImageCanvas& canvas, const FluidParameters& fluid) : m_canvas(canvas), m_fluid(fluid)
 {
 }
 
@@ -27,7 +27,7 @@ void LiquidPage::PrepareLiquidPage(int16_t page)
     m_page = page;
     m_LiquidLevel = page == 6 ? 2600 : 2100;
 
-    const FluidParameters& fluid = FluidParameters::shared();
+    const FluidParameters& fluid = m_fluid;
     LiquidMolecules::Layout layout;
     layout.rows = fluid.FluidRows;
     layout.columns = fluid.FluidColumns;
@@ -73,7 +73,7 @@ void LiquidPage::DrawLiquidPage()
     if (m_PartitionVisible)
         m_canvas.Line(LiquidMolecules::VesselMiddle, m_LiquidLevel, LiquidMolecules::VesselMiddle,
             LiquidMolecules::VesselBottom, White);
-    if (m_page == 6 && FluidParameters::shared().LiquidSurface3D)
+    if (m_page == 6 && m_fluid.LiquidSurface3D)
         m_canvas.Line(LiquidMolecules::VesselLeft, m_LiquidLevel, LiquidMolecules::VesselRight, m_LiquidLevel, White);
     m_molecules.Draw();
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "LiquidMolecules.h"
+#include "model/LiquidMolecules.h"
 
 #include <QString>
 
 #include <cstdint>
 
 class ImageCanvas;
+struct FluidParameters;
 
 // A liquid page of the introduction (unit 2, pages 6 and 8): the vessel picture as
 // the background, the partition in the vessel's middle until a click removes it,
@@ -18,8 +19,9 @@ public:
     static constexpr const char* Page6Picture = "pot_t2.bmp";
     static constexpr const char* Page8Picture = "pot_t1.bmp";
 
-    // A page that draws on the introduction's picture, which outlives it.
-    explicit LiquidPage(ImageCanvas& canvas);
+    // A page that draws on the introduction's picture with the given fluid
+    // settings; both outlive it.
+    LiquidPage(ImageCanvas& canvas, const FluidParameters& fluid);
 
     // Sets the page up (surface level, molecules, background picture, partition)
     // and draws it. A missing or unreadable picture leaves the page without a
@@ -52,6 +54,7 @@ private:
     void loadPicture(const QString& name);
 
     ImageCanvas& m_canvas;
+    const FluidParameters& m_fluid;
     QString m_pictureFolder;
     LiquidMolecules m_molecules;
     int16_t m_page = 0;

@@ -1,23 +1,11 @@
 #include "RunControl.h"
 
 #include "core/Numeric.h"
-#include "shell/HandlerGuard.h"
-#include "shell/StatusHints.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/StatusHints.h"
 
 #include <QPushButton>
 #include <QScrollBar>
-
-namespace {
-
-const QString Simulation = QStringLiteral("Simulation");
-const QString Finish = QStringLiteral("Finish");
-const QString Pause = QStringLiteral("Pause");
-const QString Continue = QStringLiteral("Continue");
-const QString Next = QStringLiteral("Next");
-const QString Step = QStringLiteral("Step");
-const QString Restore = QStringLiteral("Restore");
-
-} // namespace
 
 RunControl::RunControl(const std::array<QPushButton*, 10>& cmdCommand, QScrollBar* HScrSimulationDelay,
     QObject* parent)
@@ -29,65 +17,84 @@ RunControl::RunControl(const std::array<QPushButton*, 10>& cmdCommand, QScrollBa
     connect(&m_Timer1, &QTimer::timeout, this, &RunControl::guardedTick);
     connect(HScrSimulationDelay, &QScrollBar::valueChanged, this,
         [this] { RunGuarded([this] { HScrSimulationDelay_Change(); }); });
-    for (int index : {5, 8, 9})
-        setCaption(index, cmdCommand[index]->text());
+    setStartState(m_startState);
+    setPauseState(m_pauseState);
+    setStepState(m_stepState);
 }
 
-void RunControl::setCaption(int index, const QString& caption)
+void RunControl::showButton(Button button, const QString& caption, const QString& hint)
 {
-    cmdCommand[index]->setText(caption);
-    StatusHints::install(cmdCommand[index], HintFor(index, caption));
+    cmdCommand[button]->setText(caption);
+    StatusHints::install(cmdCommand[button], hint);
 }
 
-QString RunControl::HintFor(int index, const QString& caption)
+void RunControl::setStartState(StartState state)
 {
-    switch (index) {
-    case 5:
-        return caption == Simulation ? QStringLiteral("Simulation of phenomenon") : QStringLiteral("Stop simulation");
-    case 8:
-        if (caption == Continue)
-            return QStringLiteral("Resume simulation");
-        if (caption == Pause)
-            return QStringLiteral("Pause simulation");
-        if (caption == Next)
-            return QStringLiteral("Next snapshot of simulation process");
-        return QString();
-    case 9:
-        return caption == Step ? QStringLiteral("Activate step by step simulation")
-                               : QStringLiteral("Deactivate step by step simulation");
-    default:
-        return QString();
+    m_startState = state;
+    if (state == StartState::Simulation)
+        showButton(StartButton, tr("Simulation"), tr("Simulation of phenomenon"));
+    else
+        showButton(StartButton, tr("Finish"), tr("Stop simulation"));
+}
+
+void RunControl::setPauseState(PauseState state)
+{
+    m_pauseState = state;
+    switch (state) {
+    case PauseState::Pause:
+        showButton(PauseButton, tr("Pause"), tr("Pause simulation"));
+        break;
+    case PauseState::Continue:
+        showButton(PauseButton, tr("Continue"), tr("Resume simulation"));
+        break;
+    case PauseState::Next:
+        showButton(PauseButton, tr("Next"), tr("Next snapshot of simulation process"));
+        break;
     }
+}
+
+void RunControl::setStepState(StepState state)
+{
+    m_stepState = state;
+    if (state == StepState::Step)
+        showButton(StepButton, tr("Step"), tr("Activate step by step simulation"));
+    else
+        showButton(StepButton, tr("Restore"), tr("Deactivate step by step simulation"));
 }
 
 void RunControl::cmdCommand_Click(int Index)
 {
-    const QString caption = cmdCommand[Index]->text();
-    if (Index == 5) {
-        if (caption == Simulation)
+    switch (Index) {
+    case StartButton:
+        if (m_startState == StartState::Simulation)
             StartSimulation();
         else
             StopSimulation();
-    } else if (Index == 8) {
-        if (caption == Pause) {
+        break;
+    case PauseButton:
+        if (m_pauseState == PauseState::Pause) {
             m_Timer1.stop();
-            setCaption(8, Continue);
-        } else if (caption == Continue) {
+            setPauseState(PauseState::Continue);
+        } else if (m_pauseState == PauseState::Continue) {
             m_Timer1.start();
-            setCaption(8, Pause);
-        } else if (caption == Next) {
+            setPauseState(PauseState::Pause);
+        } else {
             guardedTick();
         }
-    } else if (Index == 9) {
-        if (caption == Step) {
+        break;
+    case StepButton:
+        if (m_stepState == StepState::Step) {
             m_Timer1.stop();
-            setCaption(8, Next);
-            setCaption(9, Restore);
+            setPauseState(PauseState::Next);
+            setStepState(StepState::Restore);
         } else {
             m_Timer1.start();
-            setCaption(8, Pause);
-            setCaption(9, Step);
+            setPauseState(PauseState::Pause);
+            setStepState(StepState::Step);
         }
+        break;
+    default:
+        break;
     }
 }
 
@@ -102,8 +109,8 @@ void RunControl::setRunButtonsEnabled(bool running)
 {
     for (int i = 1; i <= 7; ++i)
         cmdCommand[i]->setEnabled(!running);
-    cmdCommand[8]->setEnabled(running);
-    cmdCommand[9]->setEnabled(running);
+    cmdCommand[PauseButton]->setEnabled(running);
+    cmdCommand[StepButton]->setEnabled(running);
 }
 
 void RunControl::StartTimer()
@@ -113,17 +120,17 @@ void RunControl::StartTimer()
 
 void RunControl::StartLiquidRun()
 {
-    setCaption(5, Finish);
-    cmdCommand[5]->setEnabled(true);
+    setStartState(StartState::Finish);
+    cmdCommand[StartButton]->setEnabled(true);
     m_Timer1.start();
 }
 
 void RunControl::StopSimulation()
 {
     m_Timer1.stop();
-    setCaption(5, Simulation);
+    setStartState(StartState::Simulation);
     setRunButtonsEnabled(false);
-    cmdCommand[5]->setEnabled(false);
+    cmdCommand[StartButton]->setEnabled(false);
     m_RunCompleted = true;
 }
 

@@ -12,9 +12,9 @@ class QScrollBar;
 
 // The introduction's run control: the timer Timer1, the delay scroll bar and the
 // buttons "Simulation" / "Finish" (5), "Pause" / "Continue" / "Next" (8) and
-// "Step" / "Restore" (9). The state of a run is read from the timer and from those
-// captions, as the buttons show it to the learner. What a start and a tick do on
-// the page shown is the window's, passed in as handlers.
+// "Step" / "Restore" (9). The state of a run is held here, one state per button,
+// and each caption and hint is made from it. What a start and a tick do on the page
+// shown is the window's, passed in as handlers.
 class RunControl : public QObject
 {
     Q_OBJECT
@@ -53,13 +53,24 @@ public:
     // The timer of the runs.
     QTimer& Timer1() { return m_Timer1; }
 
-    // Sets a button's caption; the hint of 5, 8 and 9 follows it.
-    void setCaption(int index, const QString& caption);
+    // The buttons that work a run, by their index among the window's buttons.
+    enum Button { StartButton = 5, PauseButton = 8, StepButton = 9 };
+    // What "Simulation" / "Finish" does next: start a run, or end the one going on.
+    enum class StartState { Simulation, Finish };
+    // What the pause button does next: pause, resume, or take one step.
+    enum class PauseState { Pause, Continue, Next };
+    // What the step button does next: turn stepping on, or back off.
+    enum class StepState { Step, Restore };
 
-    // The status-line hint of button 5, 8 or 9 for a caption.
-    static QString HintFor(int index, const QString& caption);
+    StartState startState() const { return m_startState; }
+    PauseState pauseState() const { return m_pauseState; }
+    StepState stepState() const { return m_stepState; }
 
 private:
+    void setStartState(StartState state);
+    void setPauseState(PauseState state);
+    void setStepState(StepState state);
+    void showButton(Button button, const QString& caption, const QString& hint);
     void StartSimulation();
     void guardedTick();
     void setRunButtonsEnabled(bool running);
@@ -70,4 +81,7 @@ private:
     std::function<void()> m_start;
     std::function<void()> m_tick;
     bool m_RunCompleted = false;
+    StartState m_startState = StartState::Simulation;
+    PauseState m_pauseState = PauseState::Pause;
+    StepState m_stepState = StepState::Step;
 };

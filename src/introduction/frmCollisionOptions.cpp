@@ -1,18 +1,17 @@
 #include "frmCollisionOptions.h"
 
-#include "OptionsWidgets.h"
-#include "TypingLimit.h"
-#include "frmIntroduction.h"
+#include "widgets/TypingLimit.h"
+#include "widgets/OptionsWidgets.h"
 
 #include "core/EntryFilter.h"
 #include "core/Numeric.h"
 #include "model/CollisionSetup.h"
-#include "shell/FormLayout.h"
-#include "shell/Forms.h"
-#include "shell/GlobDef.h"
-#include "shell/HandlerGuard.h"
-#include "shell/StatusHints.h"
-#include "shell/suppl.h"
+#include "widgets/FormLayout.h"
+#include "widgets/WindowRelease.h"
+#include "widgets/StatusLine.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/StatusHints.h"
+#include "widgets/suppl.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -52,7 +51,6 @@ constexpr int ColumnLeft[2] = {600, 2400};
 constexpr int RowTop[KindCount] = {540, 900, 1260, 1620, 1980, 2340};
 
 constexpr int32_t DisabledTextColor = 0x6E6E6E; // RGB(110, 110, 110)
-constexpr int32_t White = 0xFFFFFF;
 
 const QString MinimisedHint = QStringLiteral("Μελέτης της υδροστατικής άνωσης με μέθοδο Monte Carlo");
 
@@ -63,7 +61,8 @@ QString decimalText(float value)
 
 } // namespace
 
-frmCollisionOptions::frmCollisionOptions()
+frmCollisionOptions::frmCollisionOptions(CollisionSetup& setup, int32_t pictureBackground)
+    : m_setup(setup), m_pictureBackground(pictureBackground)
 {
     setObjectName("frmCollisionOptions");
     setWindowTitle(QStringLiteral("Παράμετροι Ελαστικής Κρούσης"));
@@ -245,13 +244,6 @@ QLineEdit*& frmCollisionOptions::field(int kind, int Index)
     return (*fields[kind])[Index];
 }
 
-int32_t frmCollisionOptions::pictureBackground()
-{
-    // The introduction opens the dialog, so its picture is there; on its own the
-    // dialog assumes the picture's white.
-    return IsLoaded<frmIntroduction>() ? Form<frmIntroduction>().PictureBackColor() : White;
-}
-
 void frmCollisionOptions::showColors(const std::array<float, 4>& stored)
 {
     const int32_t background = pictureBackground();
@@ -272,7 +264,7 @@ void frmCollisionOptions::writeField(int kind, int Index, const QString& text)
 
 void frmCollisionOptions::ShowCurrentValues()
 {
-    const CollisionSetup& setup = CollisionSetup::global();
+    const CollisionSetup& setup = m_setup;
     for (int i = 0; i < 2; ++i) {
         const int body = i + 1;
         writeField(Mass, i, QString::number(setup.Mass[body]));
@@ -298,7 +290,7 @@ void frmCollisionOptions::ShowCurrentValues()
 
 void frmCollisionOptions::ArrangeForPage()
 {
-    const int16_t page = CollisionSetup::global().Page;
+    const int16_t page = m_setup.Page;
     if (page == 1) {
         for (QCheckBox* box : {chkGraphS, chkGraphU, chkGraphF, chkProportional})
             box->hide();
@@ -345,7 +337,7 @@ void frmCollisionOptions::MarkFieldValidity(int kind, int Index, bool Valid)
 
 void frmCollisionOptions::AcceptValues()
 {
-    CollisionSetup& setup = CollisionSetup::global();
+    CollisionSetup& setup = m_setup;
     const int32_t background = pictureBackground();
     auto value = [this](int kind, int i) { return Numeric::toFloat(LeadingNumber(field(kind, i)->text())); };
     for (int i = 0; i < 2; ++i) {
@@ -385,7 +377,7 @@ void frmCollisionOptions::ShowDefaultValues()
         box->setChecked(true);
     chkProportional->setChecked(false);
     optModel[0]->setChecked(true);
-    const CollisionSetup& setup = CollisionSetup::global();
+    const CollisionSetup& setup = m_setup;
     showColors({setup.DefaultBodyColor[1], setup.DefaultBodyColor[2], setup.DefaultVelocityColor,
         setup.DefaultForceColor});
 }
@@ -396,7 +388,7 @@ void frmCollisionOptions::cmdCommand_Click(int Index)
     case 0:
         AcceptValues();
         accept();
-        Unload<frmCollisionOptions>();
+        CloseAndRelease(this);
         break;
     case 1:
         reject();
@@ -412,7 +404,7 @@ void frmCollisionOptions::cmdCommand_Click(int Index)
 void frmCollisionOptions::reject()
 {
     QDialog::reject();
-    Unload<frmCollisionOptions>();
+    CloseAndRelease(this);
 }
 
 void frmCollisionOptions::cmdColorSelection_Click(int Index)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "BodyParameterHints.h"
-#include "ColorChooser.h"
+#include "widgets/ColorChooser.h"
 
 #include <QDialog>
 
@@ -10,6 +10,7 @@
 #include <set>
 #include <utility>
 
+class CollisionSetup;
 class QCheckBox;
 class QGroupBox;
 class QLabel;
@@ -29,9 +30,11 @@ class frmCollisionOptions : public QDialog
     Q_OBJECT
 
 public:
-    // Loads the parameters into the controls and arranges the dialog for the page
-    // (1 view from above, 2 side view) the introduction handed over.
-    frmCollisionOptions();
+    // Loads the parameters of a set-up into the controls and arranges the dialog for
+    // the set-up's page (1 view from above, 2 side view). The colours are shown and
+    // stored against the background of the picture they are drawn on. The set-up
+    // outlives the dialog and changes only on "Ok".
+    frmCollisionOptions(CollisionSetup& setup, int32_t pictureBackground);
 
     // The handlers of the controls.
     void cmdCommand_Click(int Index);
@@ -55,6 +58,9 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    CollisionSetup& m_setup;
+    const int32_t m_pictureBackground;
+
     using FieldArray = std::array<QLineEdit*, 2>;
 
     void createBodyFrame();
@@ -82,7 +88,7 @@ private:
     float storedColor(int Index, int32_t background) const;
 
     QLineEdit*& field(int kind, int Index);
-    static int32_t pictureBackground();
+    int32_t pictureBackground() const { return m_pictureBackground; }
 
     QGroupBox* fraCollisionData = nullptr;
     std::array<QLabel*, 2> lblTitle{};

@@ -3,20 +3,21 @@
 #include "RunControl.h"
 #include "frmCollisionOptions.h"
 
-#include "canvas/CanvasWidget.h"
+#include "widgets/CanvasWidget.h"
 #include "core/EntryFilter.h"
 #include "core/Numeric.h"
-#include "introduction/OptionsWidgets.h"
+#include "widgets/OptionsWidgets.h"
 #include "microview/frmLGOptions.h"
 #include "model/CollisionSetup.h"
-#include "shell/Defaults.h"
-#include "shell/FormLayout.h"
-#include "shell/Forms.h"
-#include "shell/GlobDef.h"
-#include "shell/HandlerGuard.h"
-#include "shell/MsgBox.h"
-#include "shell/StatusHints.h"
-#include "shell/suppl.h"
+#include "model/FluidParameters.h"
+#include "model/ParameterDefaults.h"
+#include "widgets/FormLayout.h"
+#include "widgets/WindowRelease.h"
+#include "widgets/StatusLine.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/MsgBox.h"
+#include "widgets/StatusHints.h"
+#include "widgets/suppl.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -24,6 +25,7 @@
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -43,7 +45,7 @@ const QString ClosingHint = QStringLiteral("The Floatrixon - A modern Greek game
 
 } // namespace
 
-frmIntroduction::frmIntroduction()
+frmIntroduction::frmIntroduction(CollisionSetup& setup, FluidParameters& fluid) : m_setup(setup), m_fluid(fluid)
 {
     setObjectName("frmIntroduction");
     setWindowTitle(QStringLiteral("Introduction"));
@@ -51,7 +53,7 @@ frmIntroduction::frmIntroduction()
     createControls();
     installHints();
     GoToFirstPage();
-    RestoreAllDefaults(PictureBackColor());
+    RestoreAllDefaults(m_setup, m_fluid, PictureBackColor());
     m_experiment->InitialiseCollision();
 }
 
@@ -87,8 +89,8 @@ void frmIntroduction::createControls()
     picIntroduction->setMouseUpHandler([this](int16_t button, int16_t shift, float x, float y) {
         RunGuarded([&] { picIntroduction_MouseUp(button, shift, x, y); });
     });
-    m_experiment = std::make_unique<ExperimentView>(canvas);
-    m_liquid = std::make_unique<LiquidPage>(canvas);
+    m_experiment = std::make_unique<ExperimentView>(canvas, m_setup);
+    m_liquid = std::make_unique<LiquidPage>(canvas, m_fluid);
 
     txtIntro = new QPlainTextEdit(this);
     txtIntro->setObjectName("txtIntro");
@@ -193,7 +195,7 @@ void frmIntroduction::cmdCommand_Click(int Index)
 {
     switch (Index) {
     case 0:
-        Unload<frmIntroduction>();
+        CloseAndRelease(this);
         break;
     case 1:
     case 2:
@@ -273,7 +275,7 @@ void frmIntroduction::MoveTo(int16_t unit, int16_t page, bool writeUnit)
         writeUnitText(unit);
     writePageText(page);
     // Every page starts from the default parameters of both experiments.
-    RestoreAllDefaults(PictureBackColor());
+    RestoreAllDefaults(m_setup, m_fluid, PictureBackColor());
     GoTo();
 }
 
@@ -402,16 +404,18 @@ void frmIntroduction::TickPage()
 
 void frmIntroduction::ShowOptions()
 {
-    CollisionSetup::global().Page = m_CurrentPage;
-    if (onCollisionPage()) {
-        Form<frmCollisionOptions>().exec();
-        Unload<frmCollisionOptions>();
-    } else if (onLiquidPage()) {
-        Form<frmLGOptions>().exec();
-        Unload<frmLGOptions>();
-    } else {
+    m_setup.Page = m_CurrentPage;
+    // A dialog releases itself on "Ok" or "Cancel"; one left by other means goes here.
+    QPointer<QDialog> dialog;
+    if (onCollisionPage())
+        dialog = new frmCollisionOptions(m_setup, PictureBackColor());
+    else if (onLiquidPage())
+        dialog = new frmLGOptions(m_fluid, m_CurrentPage);
+    else
         return;
-    }
+    dialog->exec();
+    if (dialog && !IsReleased(dialog))
+        CloseAndRelease(dialog);
     GoTo();
     if (onCollisionPage())
         m_experiment->SetUpPage(m_CurrentPage);

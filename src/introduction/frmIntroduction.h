@@ -11,6 +11,8 @@
 #include <memory>
 
 class CanvasWidget;
+class CollisionSetup;
+struct FluidParameters;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
@@ -29,8 +31,10 @@ class frmIntroduction : public QWidget
 
 public:
     // Loads the window: the book, its first page, the default parameters of both
-    // experiments and the collision experiment's first set-up.
-    frmIntroduction();
+    // experiments and the collision experiment's first set-up. The collision set-up
+    // and the fluid values are the ones its pages and dialogs work on; they outlive
+    // the window.
+    frmIntroduction(CollisionSetup& setup, FluidParameters& fluid);
     ~frmIntroduction() override;
 
     // The handlers of the controls.
@@ -103,6 +107,8 @@ private:
     QLabel* Label1 = nullptr;
     QScrollBar* HScrSimulationDelay = nullptr;
 
+    CollisionSetup& m_setup;
+    FluidParameters& m_fluid;
     IntroductionBook m_book;
     std::unique_ptr<ExperimentView> m_experiment;
     std::unique_ptr<LiquidPage> m_liquid;

@@ -3,11 +3,11 @@
 #include "MovieLayout.h"
 
 #include "core/Twips.h"
-#include "shell/FormLayout.h"
-#include "shell/Forms.h"
-#include "shell/HandlerGuard.h"
-#include "shell/StatusHints.h"
-#include "shell/suppl.h"
+#include "widgets/FormLayout.h"
+#include "widgets/WindowRelease.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/StatusHints.h"
+#include "widgets/suppl.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -140,7 +140,7 @@ void frmMacroView::cmdCommand_Click(int Index)
     RunGuarded([this, Index] {
         switch (Index) {
         case 0:
-            Unload<frmMacroView>();
+            CloseAndRelease(this);
             break;
         case 1:
             m_player->play();

@@ -2,7 +2,7 @@
 
 #include "canvas/Rgb.h"
 #include "core/Twips.h"
-#include "shell/FormLayout.h"
+#include "widgets/FormLayout.h"
 
 #include <QPainter>
 

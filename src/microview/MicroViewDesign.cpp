@@ -2,11 +2,11 @@
 
 #include "DecorShape.h"
 
-#include "canvas/CanvasWidget.h"
+#include "widgets/CanvasWidget.h"
 #include "canvas/Rgb.h"
 #include "core/Twips.h"
-#include "introduction/OptionsWidgets.h"
-#include "shell/FormLayout.h"
+#include "widgets/OptionsWidgets.h"
+#include "widgets/FormLayout.h"
 
 #include <QCheckBox>
 #include <QFont>

@@ -2,14 +2,13 @@
 
 #include "core/EntryFilter.h"
 #include "core/Numeric.h"
-#include "introduction/OptionsWidgets.h"
-#include "model/CollisionSetup.h"
-#include "shell/FluidParameters.h"
-#include "shell/FormLayout.h"
-#include "shell/Forms.h"
-#include "shell/HandlerGuard.h"
-#include "shell/StatusHints.h"
-#include "shell/suppl.h"
+#include "widgets/OptionsWidgets.h"
+#include "model/FluidParameters.h"
+#include "widgets/FormLayout.h"
+#include "widgets/WindowRelease.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/StatusHints.h"
+#include "widgets/suppl.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -39,7 +38,7 @@ constexpr int FieldColumns = 1;
 
 } // namespace
 
-frmLGOptions::frmLGOptions()
+frmLGOptions::frmLGOptions(FluidParameters& fluid, int16_t page) : m_fluid(fluid), m_page(page)
 {
     setObjectName("frmLGOptions");
     setWindowTitle(QStringLiteral("Parameters of Gas Molecules"));
@@ -145,7 +144,7 @@ void frmLGOptions::installHints()
 
 void frmLGOptions::ArrangeForPage()
 {
-    if (CollisionSetup::global().Page != 8)
+    if (m_page != 8)
         return;
     FormLayout::place(cmdCommand[2], 120, 2640 - Page8Lift, 4095, 375);
     FormLayout::place(cmdCommand[0], 2280, 3120 - Page8Lift, 1935, 375);
@@ -157,7 +156,7 @@ void frmLGOptions::ArrangeForPage()
 
 void frmLGOptions::ShowCurrentValues()
 {
-    const FluidParameters& fluid = FluidParameters::shared();
+    const FluidParameters& fluid = m_fluid;
     txtNoOfRows->setText(QString::number(fluid.FluidRows));
     txtNoOfRows_Change();
     txtNoOfColumns->setText(QString::number(fluid.FluidColumns));
@@ -169,7 +168,7 @@ void frmLGOptions::ShowCurrentValues()
 
 void frmLGOptions::AcceptValues()
 {
-    FluidParameters& fluid = FluidParameters::shared();
+    FluidParameters& fluid = m_fluid;
     fluid.FluidRows = Numeric::toInt16(LeadingNumber(txtNoOfRows->text()));
     fluid.FluidColumns = Numeric::toInt16(LeadingNumber(txtNoOfColumns->text()));
     for (int i = 0; i < 2; ++i)
@@ -182,7 +181,7 @@ void frmLGOptions::ShowDefaultValues()
     txtNoOfRows_Change();
     txtNoOfColumns->setText(QStringLiteral("5"));
     txtNoOfColumns_Change();
-    const FluidParameters& fluid = FluidParameters::shared();
+    const FluidParameters& fluid = m_fluid;
     for (int i = 0; i < 2; ++i)
         setSwatchColor(lblCurrentColor[i], Numeric::toInt32(fluid.DefaultFluidGroupColor[i + 1]));
 }
@@ -216,7 +215,7 @@ void frmLGOptions::cmdCommand_Click(int Index)
     case 0:
         AcceptValues();
         accept();
-        Unload<frmLGOptions>();
+        CloseAndRelease(this);
         break;
     case 1:
         reject();
@@ -232,7 +231,7 @@ void frmLGOptions::cmdCommand_Click(int Index)
 void frmLGOptions::reject()
 {
     QDialog::reject();
-    Unload<frmLGOptions>();
+    CloseAndRelease(this);
 }
 
 void frmLGOptions::cmdColorSelection_Click(int Index)

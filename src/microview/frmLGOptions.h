@@ -1,6 +1,6 @@
 #pragma once
 
-#include "introduction/ColorChooser.h"
+#include "widgets/ColorChooser.h"
 
 #include <QDialog>
 
@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <set>
 
+struct FluidParameters;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
@@ -22,9 +23,10 @@ class frmLGOptions : public QDialog
     Q_OBJECT
 
 public:
-    // Loads the shared fluid values into the controls and arranges the buttons for
-    // the page the introduction handed over.
-    frmLGOptions();
+    // Loads fluid values into the controls and arranges the buttons for the liquid
+    // page (6 or 8) it is opened from. The values outlive the dialog and change only
+    // on "Ok".
+    frmLGOptions(FluidParameters& fluid, int16_t page);
 
     // The handlers of the controls.
     void cmdCommand_Click(int Index);
@@ -37,6 +39,9 @@ public slots:
     void reject() override;
 
 private:
+    FluidParameters& m_fluid;
+    const int16_t m_page;
+
     void createControls();
     void createColorRow(int index, const QString& caption, int top);
     void createCommandButtons();

@@ -2,14 +2,14 @@
 
 #include "TickDriver.h"
 
-#include "canvas/CanvasWidget.h"
+#include "widgets/CanvasWidget.h"
 #include "canvas/Rgb.h"
 #include "core/Numeric.h"
 #include "model/Gas.h"
-#include "shell/FormLayout.h"
-#include "shell/Forms.h"
-#include "shell/HandlerGuard.h"
-#include "shell/suppl.h"
+#include "widgets/FormLayout.h"
+#include "widgets/WindowRelease.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/suppl.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -252,17 +252,13 @@ void frmMicroView::cmdCommand_Click(int Index)
     case 0:
         SimulationTimer->setEnabled(false);
         DestroySample();
-        Unload<frmMicroView>();
+        CloseAndRelease(this);
         break;
     case 1:
-        if (cmdCommand[1]->text() == QLatin1String("Simulate")) {
-            cmdCommand[1]->setToolTip("Click to pause simulation");
-            InitialiseCounters();
-            cmdCommand[1]->setText("Pause");
-            SimulationTimer->setEnabled(true);
-        } else if (cmdCommand[1]->text() == QLatin1String("Pause")) {
+        if (m_running)
             pause();
-        }
+        else
+            simulate();
         break;
     case 2:
         ClearHistory();
@@ -272,11 +268,21 @@ void frmMicroView::cmdCommand_Click(int Index)
     }
 }
 
+void frmMicroView::simulate()
+{
+    m_running = true;
+    cmdCommand[1]->setToolTip(tr("Click to pause simulation"));
+    InitialiseCounters();
+    cmdCommand[1]->setText(tr("Pause"));
+    SimulationTimer->setEnabled(true);
+}
+
 void frmMicroView::pause()
 {
-    cmdCommand[1]->setToolTip("Click to begin simulation");
+    m_running = false;
+    cmdCommand[1]->setToolTip(tr("Click to begin simulation"));
     SimulationTimer->setEnabled(false);
-    cmdCommand[1]->setText("Simulate");
+    cmdCommand[1]->setText(tr("Simulate"));
 }
 
 void frmMicroView::HScrNoOfMolecules_Change(int Index)

@@ -53,6 +53,7 @@ private:
     void connectControls();
     void connectBar(QScrollBar* bar, std::function<void()> change, std::function<void()> scroll);
     void tick();
+    void simulate();
     void pause();
 
     void InitialiseProgram();
@@ -90,4 +91,6 @@ private:
     ForceStatistics m_statistics;
     MacroPanel m_panel;
     TickDriver* SimulationTimer = nullptr;
+    // Whether the samples are running; the button's caption and tip follow it.
+    bool m_running = false;
 };

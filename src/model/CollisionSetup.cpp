@@ -16,12 +16,6 @@ CollisionSetup::CollisionSetup()
     Page = 1;
 }
 
-CollisionSetup& CollisionSetup::global()
-{
-    static CollisionSetup setup;
-    return setup;
-}
-
 void CollisionSetup::resetDefaults(int32_t background)
 {
     DefaultBodyColor = {float(Rgb::RGB(80, 255, 80) ^ background),

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-// The parameters of the two-body collision experiment, one record for the whole
-// program (global()). The parameters dialog writes it on "Ok", the defaults routine
+// The parameters of the two-body collision experiment. The application holds the
+// program's one record and hands it to the windows that use it: the parameters dialog writes it on "Ok", the defaults routine
 // restores it, and the experiment reads it before and during a run. Arrays are
 // indexed by body, 1 and 2. Colours are whole RGB numbers kept in floats, already
 // combined by exclusive-or with the background of the picture they are drawn on.
@@ -20,9 +20,6 @@ public:
     // A record holding the defaults against a white background, current colours
     // included, so that a fresh record describes a valid experiment.
     CollisionSetup();
-
-    // The program's one record, alive from start-up to exit.
-    static CollisionSetup& global();
 
     // Writes every default parameter: masses, radii, positions, velocities,
     // switches, force model and the default colours made against the given

@@ -43,7 +43,7 @@ public:
 
     // A state that reads the given parameters (the program's record by default),
     // which must outlive it.
-    explicit CollisionState(const CollisionSetup& setup = CollisionSetup::global());
+    explicit CollisionState(const CollisionSetup& setup);
 
     // The parameters this state reads.
     const CollisionSetup& setup() const { return *m_setup; }

@@ -2,7 +2,7 @@
 
 #include "Forms.h"
 #include "MDIMain.h"
-#include "MsgBox.h"
+#include "widgets/MsgBox.h"
 
 #include "about/ProgramImages.h"
 #include "about/frmIdentify.h"
@@ -15,6 +15,8 @@ void StartUp()
 {
     QApplication::setWindowIcon(ProgramImages::icon());
     frmIdentify& splash = Form<frmIdentify>();
+    QObject::connect(&splash, &frmIdentify::splashFinished, &splash, &ShowMainWindow);
+    QObject::connect(&splash, &frmIdentify::splashClosedByUser, &splash, &EndProgram);
     splash.show();
     splash.setWindowTitle(QString());
     // The panel starts below the part of the window that stays visible and slides
@@ -41,11 +43,6 @@ bool ConfirmExit()
 void ShowNotImplemented()
 {
     MsgBox(QStringLiteral("Sorry, feature not yet implemented"), 16, QStringLiteral("Floatrix"));
-}
-
-void SetStatusLine(const QString& text)
-{
-    Form<MDIMain>().setStatusLine(text);
 }
 
 void EndProgram()

@@ -17,8 +17,5 @@ bool ConfirmExit();
 // Tells the user that a feature is not there yet; returns when the box is closed.
 void ShowNotImplemented();
 
-// Writes a hint into the main frame's status line, replacing what was there.
-void SetStatusLine(const QString& text);
-
 // Ends the program at once: every remaining window goes without further events.
 void EndProgram();

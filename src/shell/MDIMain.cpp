@@ -2,7 +2,7 @@
 
 #include "Forms.h"
 #include "GlobDef.h"
-#include "HandlerGuard.h"
+#include "widgets/HandlerGuard.h"
 
 #include "about/frmIdentify.h"
 #include "core/Twips.h"

@@ -1,8 +1,9 @@
 #include "ModalAnswerer.h"
+#include "TestWindow.h"
 #include "WindowChecks.h"
 
 #include "canvas/Rgb.h"
-#include "introduction/OptionsWidgets.h"
+#include "widgets/OptionsWidgets.h"
 #include "introduction/frmCollisionOptions.h"
 #include "model/CollisionSetup.h"
 #include "shell/Forms.h"
@@ -21,9 +22,23 @@ using namespace OptionsWidgets;
 
 namespace {
 
+CollisionSetup& testSetup()
+{
+    static CollisionSetup record;
+    return record;
+}
+
+// The dialog on the test's own set-up, its colours against the picture's white.
+TestWindow<frmCollisionOptions>& window()
+{
+    static TestWindow<frmCollisionOptions> options(
+        [] { return new frmCollisionOptions(testSetup(), Rgb::RGB(255, 255, 255)); });
+    return options;
+}
+
 frmCollisionOptions& dialog()
 {
-    return Form<frmCollisionOptions>();
+    return window().get();
 }
 
 template <class T = QWidget>
@@ -64,7 +79,7 @@ QString boxTexts()
 // Every body value of the record, kind by kind, the first body's before the second's.
 QList<float> storedValues()
 {
-    const CollisionSetup& setup = CollisionSetup::global();
+    const CollisionSetup& setup = testSetup();
     QList<float> values;
     for (const auto* field : {&setup.Radius, &setup.X, &setup.Y, &setup.Ux, &setup.Uy})
         values << (*field)[1] << (*field)[2];
@@ -86,7 +101,7 @@ QString hintOf(QWidget* widget)
 // Opens the dialog as the introduction does from a page.
 void open(int16_t page)
 {
-    CollisionSetup::global().Page = page;
+    testSetup().Page = page;
     dialog().show();
 }
 
@@ -108,17 +123,16 @@ private slots:
 
 void CollisionOptionsTest::init()
 {
-    CollisionSetup& setup = CollisionSetup::global();
+    CollisionSetup& setup = testSetup();
     setup.resetDefaults(Rgb::RGB(255, 255, 255));
     setup.useDefaultColours();
 }
 
 void CollisionOptionsTest::cleanup()
 {
-    if (IsLoaded<frmCollisionOptions>())
-        Unload<frmCollisionOptions>();
+    window().unload();
     closeLeftoverWindows();
-    QVERIFY(!IsLoaded<frmCollisionOptions>());
+    QVERIFY(!window().loaded());
 }
 
 void CollisionOptionsTest::loadsTheRecordWithPlainColoursAndHints()
@@ -134,11 +148,11 @@ void CollisionOptionsTest::loadsTheRecordWithPlainColoursAndHints()
     QCOMPARE(hintOf(box("txtux", 1)), QString("Εισαγωγή ταχύτητας 2ου σώματος στον x-άξονα [-100,100]"));
     QCOMPARE(hintOf(control("lblUnits(8)")), QString("Αρχική θέση (x-άξονας)2ου σώματος (σε m)"));
     QCOMPARE(hintOf(command(2)), QString("Default values for all parameters"));
-    Unload<frmCollisionOptions>();
+    window().unload();
 
-    CollisionSetup::global().Radius[1] = 0.5f;
-    CollisionSetup::global().X[2] = -25;
-    CollisionSetup::global().ForceModel = 2;
+    testSetup().Radius[1] = 0.5f;
+    testSetup().X[2] = -25;
+    testSetup().ForceModel = 2;
     open(2);
     QCOMPARE(boxTexts(), QString("10 15 0.5 10 0 -25 0 0 100 50 0 0"));
     QVERIFY(control<QRadioButton>("optModel(2)")->isChecked());
@@ -200,8 +214,8 @@ void CollisionOptionsTest::okStoresTheTypedValuesAndChosenColours()
     QCOMPARE(opened, QList<QColor>({QColor(0, 0, 0), QColor(0, 200, 0)}));
 
     command(0)->click();
-    QVERIFY(!IsLoaded<frmCollisionOptions>());
-    const CollisionSetup& setup = CollisionSetup::global();
+    QVERIFY(!window().loaded());
+    const CollisionSetup& setup = testSetup();
     QCOMPARE(setup.Mass[1], int16_t(2));
     QCOMPARE(setup.Mass[2], int16_t(4));
     QCOMPARE(setup.Radius[1], 7.5f);
@@ -247,15 +261,15 @@ void CollisionOptionsTest::aReopenedDialogShowsAndKeepsEveryValueWhole()
     QCOMPARE(radius->text(), QString("0.2"));
     // A locked y value of the side view is stored as shown, whole.
     command(0)->click();
-    QCOMPARE(CollisionSetup::global().Radius[1], 0.2f);
-    QCOMPARE(CollisionSetup::global().Y[2], -0.1f);
-    QCOMPARE(CollisionSetup::global().Uy[1], 0.75f);
+    QCOMPARE(testSetup().Radius[1], 0.2f);
+    QCOMPARE(testSetup().Y[2], -0.1f);
+    QCOMPARE(testSetup().Uy[1], 0.75f);
 }
 
 void CollisionOptionsTest::eachViewShowsOnlyItsOwnControlsAndDefaults()
 {
     // The view from above hides the graph switches but keeps their values.
-    CollisionSetup& setup = CollisionSetup::global();
+    CollisionSetup& setup = testSetup();
     setup.GraphVelocity = 0;
     open(1);
     for (const char* name : {"chkGraphS", "chkGraphU", "chkGraphF", "chkProportional"})
@@ -289,7 +303,7 @@ void CollisionOptionsTest::eachViewShowsOnlyItsOwnControlsAndDefaults()
     QVERIFY(!control<QCheckBox>("chkProportional")->isChecked());
     QCOMPARE(swatch(0), Rgb::RGB(80, 255, 80));
     command(1)->click();
-    QVERIFY(!IsLoaded<frmCollisionOptions>());
+    QVERIFY(!window().loaded());
     QCOMPARE(setup.Mass[1], int16_t(7));
     QCOMPARE(setup.Uy[2], 20.0f);
     QCOMPARE(setup.ProportionalGraphs, int16_t(1));

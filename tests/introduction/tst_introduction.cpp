@@ -1,18 +1,19 @@
 #include "ModalAnswerer.h"
 #include "WindowChecks.h"
 
-#include "canvas/CanvasWidget.h"
 #include "canvas/Rgb.h"
+#include "widgets/CanvasWidget.h"
 #include "core/ScopedRandomSequence.h"
 #include "introduction/IntroductionBook.h"
-#include "introduction/OptionsWidgets.h"
+#include "widgets/OptionsWidgets.h"
 #include "introduction/RunControl.h"
 #include "introduction/frmCollisionOptions.h"
 #include "introduction/frmIntroduction.h"
 #include "microview/frmLGOptions.h"
 #include "model/CollisionSetup.h"
-#include "shell/FluidParameters.h"
+#include "model/FluidParameters.h"
 #include "shell/Forms.h"
+#include "shell/ProgramRecords.h"
 #include "shell/GlobDef.h"
 #include "shell/MDIMain.h"
 
@@ -188,8 +189,8 @@ void IntroductionTest::arrowButtonsWalkTheBookAndRestoreTheDefaults()
         {5, 1, 2, 4, 4}, {4, 2, 3, 4, 3},
     };
     ModalAnswerer answerer;
-    CollisionSetup& setup = CollisionSetup::global();
-    FluidParameters& fluid = FluidParameters::shared();
+    CollisionSetup& setup = ProgramRecords::instance().Collision;
+    FluidParameters& fluid = ProgramRecords::instance().Fluid;
     for (const Move& move : moves) {
         // Go To keeps changed parameters; every move restores the defaults, a button that cannot move nothing.
         setup.Mass[1] = 3;
@@ -274,7 +275,7 @@ void IntroductionTest::collisionPagesShowTheirTextsAndTheirCheck()
     QCOMPARE(answerer->count(), 0);
 
     // A failed check says why and blocks the run.
-    CollisionSetup::global().Ux[1] = -100;
+    ProgramRecords::instance().Collision.Ux[1] = -100;
     goTo(3, 2);
     QCOMPARE(answerer->count(), 1);
     QCOMPARE(answerer->title(), QString("Simulation Results"));
@@ -285,13 +286,13 @@ void IntroductionTest::collisionPagesShowTheirTextsAndTheirCheck()
     QVERIFY(!button(5)->isEnabled());
     // Equal velocities meet nowhere: the learner is told so as well.
     answerer.emplace();
-    CollisionSetup::global().Ux[1] = 50;
+    ProgramRecords::instance().Collision.Ux[1] = 50;
     button(6)->click();
     QCOMPARE(answerer->count(), 1);
     QVERIFY(answerer->text().contains("x components of velocity are equal"));
     QVERIFY(!button(5)->isEnabled());
     // Equal x and y velocities from above make a code without a message of its own.
-    CollisionSetup::global().Uy[1] = CollisionSetup::global().Uy[2] = 10;
+    ProgramRecords::instance().Collision.Uy[1] = ProgramRecords::instance().Collision.Uy[2] = 10;
     goTo(3, 1);
     QCOMPARE(answerer->count(), 1);
     QVERIFY(!button(5)->isEnabled());
@@ -321,7 +322,7 @@ void IntroductionTest::liquidPagesShowTheVesselAndTheirMolecules()
         const Particle& molecule = molecules.Molecule(k);
         const int32_t shown = canvas.pixelColor(int(canvas.toDeviceX(molecule.Xcoord())),
             int(canvas.toDeviceY(molecule.Ycoord())));
-        QCOMPARE(shown, int32_t(FluidParameters::shared().FluidGroupColor[k == 1 ? 1 : 2]));
+        QCOMPARE(shown, int32_t(ProgramRecords::instance().Fluid.FluidGroupColor[k == 1 ? 1 : 2]));
     }
 
     // A click on the picture takes the partition out; both groups get the vessel.
@@ -330,8 +331,8 @@ void IntroductionTest::liquidPagesShowTheVesselAndTheirMolecules()
     QCOMPARE(molecules.GroupLeft(2), 1000.0f);
     QCOMPARE(molecules.GroupRight(1), 3480.0f);
 
-    FluidParameters::shared().FluidRows = 2;
-    FluidParameters::shared().FluidColumns = 3;
+    ProgramRecords::instance().Fluid.FluidRows = 2;
+    ProgramRecords::instance().Fluid.FluidColumns = 3;
     button(6)->click();
     QCOMPARE(molecules.MoleculeCount(), int16_t(6));
     QVERIFY(liquid.PartitionVisible());
@@ -683,14 +684,14 @@ void IntroductionTest::optionsOpensTheDialogOfThePage()
     });
     goTo(3, 2);
     button(7)->click();
-    QCOMPARE(CollisionSetup::global().Page, int16_t(2));
-    QCOMPARE(CollisionSetup::global().Mass[1], int16_t(20));
+    QCOMPARE(ProgramRecords::instance().Collision.Page, int16_t(2));
+    QCOMPARE(ProgramRecords::instance().Collision.Mass[1], int16_t(20));
     QVERIFY(button(5)->isEnabled());
     QCOMPARE(intro().CurrentPage(), int16_t(2));
 
     goTo(2, 8);
     button(7)->click();
-    QCOMPARE(CollisionSetup::global().Page, int16_t(8));
+    QCOMPARE(ProgramRecords::instance().Collision.Page, int16_t(8));
     goTo(4, 1);
     button(7)->click();
     QCOMPARE(titles, QStringList({"Παράμετροι Ελαστικής Κρούσης", "Parameters of Gas Molecules"}));

@@ -1,14 +1,13 @@
 #include "ModalAnswerer.h"
+#include "TestWindow.h"
 #include "WindowChecks.h"
 
 #include "canvas/Rgb.h"
 #include "core/Twips.h"
-#include "introduction/OptionsWidgets.h"
+#include "widgets/OptionsWidgets.h"
 #include "microview/frmLGOptions.h"
-#include "model/CollisionSetup.h"
-#include "shell/Defaults.h"
-#include "shell/FluidParameters.h"
-#include "shell/Forms.h"
+#include "model/FluidParameters.h"
+#include "model/ParameterDefaults.h"
 
 #include <QColorDialog>
 #include <QLabel>
@@ -20,9 +19,24 @@ using OptionsWidgets::indexedName;
 
 namespace {
 
+FluidParameters& testFluid()
+{
+    static FluidParameters values;
+    return values;
+}
+
+// The page the dialog is opened from.
+int16_t openedPage = 6;
+
+TestWindow<frmLGOptions>& window()
+{
+    static TestWindow<frmLGOptions> options([] { return new frmLGOptions(testFluid(), openedPage); });
+    return options;
+}
+
 frmLGOptions& dialog()
 {
-    return Form<frmLGOptions>();
+    return window().get();
 }
 
 template <class T = QWidget>
@@ -60,7 +74,7 @@ int32_t swatch(int index)
 
 void open(int16_t page)
 {
-    CollisionSetup::global().Page = page;
+    openedPage = page;
     dialog().show();
 }
 
@@ -82,21 +96,20 @@ private slots:
 
 void LGOptionsTest::init()
 {
-    ResetFluidDefaults();
+    ResetFluidDefaults(testFluid());
 }
 
 void LGOptionsTest::cleanup()
 {
-    if (IsLoaded<frmLGOptions>())
-        Unload<frmLGOptions>();
+    window().unload();
     closeLeftoverWindows();
-    QVERIFY(!IsLoaded<frmLGOptions>());
+    QVERIFY(!window().loaded());
 }
 
 void LGOptionsTest::okStoresRowsAndColumnsWithinTheirLimitsAndTheChosenColours()
 {
     // Default values refill the controls only: Cancel leaves the record as it was.
-    FluidParameters& fluid = FluidParameters::shared();
+    FluidParameters& fluid = testFluid();
     fluid.FluidRows = 2;
     fluid.FluidGroupColor[2] = Rgb::RGB(0, 255, 0);
     open(6);
@@ -143,7 +156,7 @@ void LGOptionsTest::okStoresRowsAndColumnsWithinTheirLimitsAndTheChosenColours()
     type("txtNoOfRows", "3");
     type("txtNoOfColumns", " 4");
     command(0)->click();
-    QVERIFY(!IsLoaded<frmLGOptions>());
+    QVERIFY(!window().loaded());
     QCOMPARE(fluid.FluidRows, int16_t(3));
     QCOMPARE(fluid.FluidColumns, int16_t(4));
     QCOMPARE(fluid.FluidGroupColor[1], float(Rgb::RGB(0, 200, 0)));
@@ -157,7 +170,7 @@ void LGOptionsTest::pageEightMovesTheButtonsUp()
     auto heights = [] { return QList<int>{command(0)->y(), command(1)->y(), command(2)->y(), dialog().height()}; };
     open(6);
     QList<int> lifted = heights();
-    Unload<frmLGOptions>();
+    window().unload();
     open(8);
     for (int& height : lifted)
         height -= Twips::toPixels(480);

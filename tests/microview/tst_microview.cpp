@@ -1,7 +1,7 @@
 #include "ModalAnswerer.h"
 #include "WindowChecks.h"
 
-#include "canvas/CanvasWidget.h"
+#include "widgets/CanvasWidget.h"
 #include "core/ScopedRandomSequence.h"
 #include "microview/TickDriver.h"
 #include "microview/frmMicroView.h"

@@ -4,8 +4,9 @@
 #include "introduction/frmIntroduction.h"
 #include "model/CollisionSetup.h"
 #include "shell/Defaults.h"
-#include "shell/FluidParameters.h"
+#include "model/FluidParameters.h"
 #include "shell/Forms.h"
+#include "shell/ProgramRecords.h"
 
 #include <QtTest>
 
@@ -26,7 +27,7 @@ void DefaultsTest::cleanup()
 
 void DefaultsTest::fluidDefaults()
 {
-    FluidParameters& fluid = FluidParameters::shared();
+    FluidParameters& fluid = ProgramRecords::instance().Fluid;
     fluid = FluidParameters{1, 2, {0, 7, 7}, {0, 7, 7}, false};
     ResetFluidDefaults();
     QCOMPARE(fluid.FluidRows, int16_t(6));
@@ -39,17 +40,17 @@ void DefaultsTest::fluidDefaults()
 
 void DefaultsTest::collisionDefaultsAreMadeAgainstThePicture()
 {
-    CollisionSetup& setup = CollisionSetup::global();
+    CollisionSetup& setup = ProgramRecords::instance().Collision;
     setup.Mass[2] = 1;
     setup.BodyColor[1] = 5;
-    FluidParameters::shared().FluidRows = 1;
+    ProgramRecords::instance().Fluid.FluidRows = 1;
     QVERIFY(!IsLoaded<frmIntroduction>());
     RestoreAllDefaults();
     // The introduction is loaded to read its picture's background.
     QVERIFY(IsLoaded<frmIntroduction>());
     const int32_t background = Form<frmIntroduction>().PictureBackColor();
     QCOMPARE(setup.Mass[2], int16_t(15));
-    QCOMPARE(FluidParameters::shared().FluidRows, int16_t(6));
+    QCOMPARE(ProgramRecords::instance().Fluid.FluidRows, int16_t(6));
     QCOMPARE(setup.DefaultBodyColor[1], float(Rgb::RGB(80, 255, 80) ^ background));
     QCOMPARE(setup.DefaultForceColor, float(Rgb::RGB(255, 0, 0) ^ background));
 

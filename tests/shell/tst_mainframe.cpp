@@ -6,9 +6,9 @@
 #include "microview/frmMicroView.h"
 #include "shell/Forms.h"
 #include "shell/GlobDef.h"
-#include "shell/HandlerGuard.h"
+#include "widgets/HandlerGuard.h"
 #include "shell/MDIMain.h"
-#include "shell/suppl.h"
+#include "widgets/suppl.h"
 
 #include <QAction>
 #include <QLabel>

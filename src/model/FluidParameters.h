@@ -7,8 +7,8 @@
 
 // The settings of the liquid pages' molecules: how many rows and columns of them,
 // the colour of each of their two groups, and whether page 6 draws the liquid's
-// surface. One set serves the whole program; the fluid options dialog edits it and
-// the defaults routine restores it.
+// surface. The application holds the program's one set; the fluid options dialog
+// edits it and the defaults routine restores it.
 struct FluidParameters
 {
     // Rows and columns of fluid molecules.
@@ -21,6 +21,7 @@ struct FluidParameters
     // Whether page 6 draws the liquid's surface line.
     bool LiquidSurface3D = true;
 
-    // The program's one set.
-    static FluidParameters& shared();
+    // Writes the defaults: 6 rows, 5 columns, red and blue groups, the
+    // three-dimensional liquid surface on.
+    void resetDefaults() { *this = FluidParameters(); }
 };

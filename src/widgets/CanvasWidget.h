@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ImageCanvas.h"
+#include "canvas/ImageCanvas.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #include "StatusHints.h"
 
-#include "GlobDef.h"
+#include "StatusLine.h"
 
 #include <QEvent>
 #include <QVariant>

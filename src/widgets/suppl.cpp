@@ -1,6 +1,6 @@
 #include "suppl.h"
 
-#include "GlobDef.h"
+#include "StatusLine.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

@@ -1,7 +1,0 @@
-#include "FluidParameters.h"
-
-FluidParameters& FluidParameters::shared()
-{
-    static FluidParameters values;
-    return values;
-}

@@ -1,0 +1,7 @@
+#include "ProgramRecords.h"
+
+ProgramRecords& ProgramRecords::instance()
+{
+    static ProgramRecords records;
+    return records;
+}
