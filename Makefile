@@ -9,8 +9,11 @@ all: build
 deps:
 	@bash scripts/install-deps.sh
 
+# Continuous integration (CI set) treats every compiler warning as an error.
+WERROR := $(if $(CI),ON,OFF)
+
 configure: deps
-	@cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release > /dev/null
+	@cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release -DFLOATRIX_WERROR=$(WERROR) > /dev/null
 
 build: configure
 	@cmake --build $(BUILD) -j $(JOBS)
@@ -31,7 +34,7 @@ bench: configure
 
 # The whole suite again in a build with AddressSanitizer and UndefinedBehaviorSanitizer.
 sanitize: deps
-	@cmake -S . -B $(BUILD)-asan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFLOATRIX_SANITIZE=ON > /dev/null
+	@cmake -S . -B $(BUILD)-asan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFLOATRIX_SANITIZE=ON -DFLOATRIX_WERROR=$(WERROR) > /dev/null
 	@cmake --build $(BUILD)-asan -j $(JOBS)
 	@cd $(BUILD)-asan && ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
 

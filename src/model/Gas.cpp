@@ -519,7 +519,7 @@ bool Gas::MoleculesInContact(int16_t i, int16_t j)
     const bool differencesFit = std::max(std::llabs(dx), std::llabs(dy)) <= INT32_MAX;
     if (differencesFit && (std::llabs(dx) > reach || std::llabs(dy) > reach))
         return false;
-    return PointDistance(xi, xj, yi, yj) <= reach;
+    return PointDistance(xi, xj, yi, yj) <= float(reach);
 }
 
 // An elastic collision of two discs: the velocity components along the line of
