@@ -57,7 +57,7 @@ void ExperimentView::StartCollisionRun()
     // A set-up made while a graph was enlarged laid the graphs out in the enlarged
     // panel alone, leaving the run's own panels as an older layout left them.
     if (m_graphs.GraphCount > 0)
-        m_graphs.LayoutGraphs(m_canvas, setup(), m_graphs.GraphCount);
+        m_graphs.LayoutGraphs(m_canvas, m_setup, m_graphs.GraphCount);
     m_state.SimulationTime = 0;
     for (int16_t g = 1; g <= m_graphs.GraphCount; ++g)
         m_graphs.GraphRange(m_setup, m_state, g, m_graphs.GraphQuantity[g], 0, RunEnd());

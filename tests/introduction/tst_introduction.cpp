@@ -16,6 +16,7 @@
 #include "shell/ProgramRecords.h"
 #include "shell/GlobDef.h"
 #include "shell/MDIMain.h"
+#include "widgets/StatusLine.h"
 
 #include <QCheckBox>
 #include <QDir>
