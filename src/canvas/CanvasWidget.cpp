@@ -2,7 +2,10 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
+#include <QTimer>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -37,7 +40,22 @@ CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_canvas.setPixelRatio(devicePixelRatioF());
-    m_canvas.setChangeListener([this] { update(); });
+    m_canvas.setChangeListener([this] { scheduleShow(); });
+}
+
+void CanvasWidget::scheduleShow()
+{
+    if (m_showPending)
+        return;
+    m_showPending = true;
+    const QScreen* display = screen();
+    const qreal rate = display != nullptr && display->refreshRate() > 0 ? display->refreshRate() : 60.0;
+    const qint64 frame = std::clamp(qint64(std::lround(1000.0 / rate)), qint64(1), qint64(50));
+    const qint64 since = m_sinceShown.isValid() ? m_sinceShown.elapsed() : frame;
+    if (since >= frame)
+        update();
+    else
+        QTimer::singleShot(frame - since, Qt::PreciseTimer, this, [this] { update(); });
 }
 
 void CanvasWidget::fitCanvasToWidget()
@@ -73,6 +91,8 @@ void CanvasWidget::paintEvent(QPaintEvent* event)
     else
         painter.drawImage(rect(), image);
     m_canvas.markClean();
+    m_showPending = false;
+    m_sinceShown.restart();
 }
 
 void CanvasWidget::resizeEvent(QResizeEvent* event)

@@ -314,17 +314,33 @@ void ImageCanvas::disc(double cx, double cy, double radius, int32_t outline)
     const QRgb edge = Rgb::toQRgb(outline);
     const QRgb fill = Rgb::toQRgb(FillColor());
     const double inner = radius - penWidth();
-    const int32_t first = int32_t(std::floor(cy - radius));
-    const int32_t last = int32_t(std::ceil(cy + radius));
+    const double outerSquared = radius * radius;
+    const double innerSquared = inner * inner;
+    const int32_t first = std::max(int32_t(std::floor(cy - radius)), 0);
+    const int32_t last = std::min(int32_t(std::ceil(cy + radius)), m_height - 1);
     bool drewAny = false;
-    for (int32_t y = std::max(first, 0); y <= std::min(last, m_height - 1); ++y) {
-        const double dy = y + 0.5 - cy;
-        if (dy * dy > radius * radius)
-            continue;
-        const double outerHalf = std::sqrt(radius * radius - dy * dy);
-        const double innerHalf = (inner > 0 && dy * dy <= inner * inner) ? std::sqrt(inner * inner - dy * dy) : -1;
-        discRow(y, cx, outerHalf, innerHalf, edge, fill);
-        drewAny = true;
+    // The rows go in batches: the square roots of a batch are taken first, all
+    // independent of each other, so that the processor overlaps them. A root of a
+    // negative number (a row outside the disc or its interior) is not used.
+    constexpr int32_t Batch = 16;
+    double outerHalf[Batch];
+    double innerHalf[Batch];
+    double squared[Batch];
+    for (int32_t from = first; from <= last; from += Batch) {
+        const int32_t count = std::min(Batch, last - from + 1);
+        for (int32_t k = 0; k < count; ++k) {
+            const double dy = (from + k) + 0.5 - cy;
+            squared[k] = dy * dy;
+            outerHalf[k] = std::sqrt(outerSquared - squared[k]);
+            innerHalf[k] = std::sqrt(innerSquared - squared[k]);
+        }
+        for (int32_t k = 0; k < count; ++k) {
+            if (squared[k] > outerSquared)
+                continue;
+            const bool hasInterior = inner > 0 && squared[k] <= innerSquared;
+            discRow(from + k, cx, outerHalf[k], hasInterior ? innerHalf[k] : -1, edge, fill);
+            drewAny = true;
+        }
     }
     // A circle smaller than a pixel still shows as its centre pixel.
     if (!drewAny && radius < 1)
