@@ -13,9 +13,11 @@ namespace {
 class NullCanvas : public Canvas
 {
 public:
-    NullCanvas() { setScale(0, 0, 1905, 1785); }
-    int32_t DeviceWidth() const override { return 127; }
-    int32_t DeviceHeight() const override { return 119; }
+    NullCanvas()
+    {
+        setDeviceSize(127, 119);
+        setScale(0, 0, 1905, 1785);
+    }
 
 protected:
     void clearDevice() override {}

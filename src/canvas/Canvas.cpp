@@ -1,5 +1,6 @@
 #include "Canvas.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -68,11 +69,31 @@ void Canvas::setScalePixels()
     deviceResized();
 }
 
+void Canvas::setDeviceSize(int32_t width, int32_t height)
+{
+    m_deviceWidth = width;
+    m_deviceHeight = height;
+    deviceResized();
+}
+
+void Canvas::setPixelRatio(double value)
+{
+    m_pixelRatio = value > 0 ? value : 1.0;
+    setDrawWidth(m_DrawWidth);
+    deviceResized();
+}
+
+void Canvas::setDrawWidth(int16_t value)
+{
+    m_DrawWidth = value < 1 ? 1 : value;
+    m_penWidth = m_pixelRatio == 1.0 ? m_DrawWidth : std::max(1, int32_t(std::lround(m_DrawWidth * m_pixelRatio)));
+}
+
 void Canvas::deviceResized()
 {
     if (m_scaleMode == ScaleMode::User)
         return;
-    const double factor = m_scaleMode == ScaleMode::Twips ? TwipsPerPixel : 1.0;
+    const double factor = (m_scaleMode == ScaleMode::Twips ? TwipsPerPixel : 1.0) / m_pixelRatio;
     m_ScaleLeft = 0;
     m_ScaleTop = 0;
     m_ScaleWidth = static_cast<float>(DeviceWidth() * factor);
@@ -193,5 +214,14 @@ void Canvas::Polygon(const std::vector<DevicePoint>& points)
 {
     if (points.empty())
         return;
-    polygon(points, m_ForeColor);
+    if (m_pixelRatio == 1.0) {
+        polygon(points, m_ForeColor);
+        return;
+    }
+    std::vector<DevicePoint> device(points);
+    for (DevicePoint& point : device) {
+        point.x = int32_t(std::lround(point.x * m_pixelRatio));
+        point.y = int32_t(std::lround(point.y * m_pixelRatio));
+    }
+    polygon(device, m_ForeColor);
 }

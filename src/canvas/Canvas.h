@@ -61,7 +61,7 @@ public:
     int16_t DrawMode() const { return m_DrawMode; }
     void setDrawMode(int16_t value) { m_DrawMode = value; }
     int16_t DrawWidth() const { return m_DrawWidth; }
-    void setDrawWidth(int16_t value) { m_DrawWidth = value < 1 ? 1 : value; }
+    void setDrawWidth(int16_t value);
 
     // The current point: where the last Line ended or the last PSet or Circle was.
     float CurrentX() const { return m_CurrentX; }
@@ -102,16 +102,25 @@ public:
     void Polygon(const std::vector<DevicePoint>& points);
 
     // The device size in pixels.
-    virtual int32_t DeviceWidth() const = 0;
-    virtual int32_t DeviceHeight() const = 0;
+    int32_t DeviceWidth() const { return m_deviceWidth; }
+    int32_t DeviceHeight() const { return m_deviceHeight; }
+
+    // Device pixels per pixel of the program's drawing (1 on an ordinary screen, 2
+    // on a double-density one). Pen widths and polygon points are given in the
+    // program's pixels and drawn this many times larger, so a picture shows the
+    // same figures, only finer, at every density; a twip or pixel scale follows.
+    double PixelRatio() const { return m_pixelRatio; }
+    void setPixelRatio(double value);
 
     // User units to device pixels, unrounded.
     double toDeviceX(double x) const;
     double toDeviceY(double y) const;
 
 protected:
-    // Follows a new device size: a twip or pixel scale takes the new extent.
-    void deviceResized();
+    // Takes a new device size: a twip or pixel scale takes the new extent.
+    void setDeviceSize(int32_t width, int32_t height);
+    // The pen width in device pixels: DrawWidth at the pixel ratio, at least 1.
+    int32_t penWidth() const { return m_penWidth; }
 
     // The figures in device pixels, for an implementation to set.
     virtual void clearDevice() = 0;
@@ -124,6 +133,7 @@ protected:
 private:
     enum class ScaleMode { Twips, Pixels, User };
 
+    void deviceResized();
     int32_t pixelX(double x) const;
     int32_t pixelY(double y) const;
     void drawSegment(float x1, float y1, float x2, float y2, int32_t color);
@@ -142,4 +152,8 @@ private:
     int16_t m_DrawWidth = 1;
     float m_CurrentX = 0;
     float m_CurrentY = 0;
+    int32_t m_deviceWidth = 1;
+    int32_t m_deviceHeight = 1;
+    double m_pixelRatio = 1;
+    int32_t m_penWidth = 1;
 };

@@ -4,11 +4,29 @@
 
 namespace {
 
-QLocale displayLocale()
+// The user's locale without digit grouping, with the two symbols the format needs.
+// Eight numbers are written at every tick, so it is made again only when the
+// user's locale has changed.
+struct DisplayLocale
 {
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale;
+    QLocale user;
+    QLocale numbers;
+    QString zero;
+    QString minus;
+};
+
+const DisplayLocale& displayLocale()
+{
+    static DisplayLocale cached;
+    const QLocale user;
+    if (cached.zero.isEmpty() || user != cached.user) {
+        cached.user = user;
+        cached.numbers = user;
+        cached.numbers.setNumberOptions(QLocale::OmitGroupSeparator);
+        cached.zero = cached.numbers.zeroDigit();
+        cached.minus = cached.numbers.negativeSign();
+    }
+    return cached;
 }
 
 } // namespace
@@ -51,12 +69,12 @@ QString ForceStatistics::mean(const char* prefix, double sum) const
 
 QString ForceStatistics::FormatForce(double value)
 {
-    const QLocale locale = displayLocale();
+    const DisplayLocale& locale = displayLocale();
     // The sign is written by hand so that a small negative value keeps it after
     // rounding, and the magnitude is rounded to two decimals before a trailing zero
     // in the second place is dropped.
-    QString digits = locale.toString(value < 0 ? -value : value, 'f', 2);
-    if (digits.endsWith(locale.zeroDigit()))
-        digits.chop(locale.zeroDigit().size());
-    return value < 0 ? locale.negativeSign() + digits : digits;
+    QString digits = locale.numbers.toString(value < 0 ? -value : value, 'f', 2);
+    if (digits.endsWith(locale.zero))
+        digits.chop(locale.zero.size());
+    return value < 0 ? locale.minus + digits : digits;
 }

@@ -486,18 +486,26 @@ void Gas::ShowNextSnapshot(float& ImpulseLeft, float& ImpulseRight, float& Impul
 // is found apart.
 void Gas::ExamineContacts(int16_t i)
 {
+    // Collisions and exchanges change velocities and properties, never positions,
+    // so molecule i's rounded centre holds for the whole loop.
+    if (i >= m_NoOfMolecules)
+        return;
+    Particle& a = Molecule(i);
+    const int32_t xi = roundToInt32(a.Xcoord());
+    const int32_t yi = roundToInt32(a.Ycoord());
+    const int32_t reach = ContactReach();
     for (int16_t j = i + 1; j <= m_NoOfMolecules; ++j) {
         const double b = partnerBit(j);
-        const double c = Molecule(i).CollisionInProgress();
-        const bool inContact = MoleculesInContact(i, j);
+        const double c = a.CollisionInProgress();
+        const bool inContact = WithinReach(xi, yi, Molecule(j), reach);
         const bool present = (roundToInt32(b) & roundToInt32(c)) != 0;
         if (!inContact) {
             if (present)
-                Molecule(i).setCollisionInProgress(c - b);
+                a.setCollisionInProgress(c - b);
         } else if (!present) {
-            Molecule(i).setCollisionInProgress(c + b);
+            a.setCollisionInProgress(c + b);
             CollideMolecules(i, j);
-            if (SharedRandom::next() > Molecule(i).FluxProbability())
+            if (SharedRandom::next() > a.FluxProbability())
                 ExchangeMolecules(i, j);
         }
     }
@@ -507,11 +515,21 @@ bool Gas::MoleculesInContact(int16_t i, int16_t j)
 {
     const Particle& a = Molecule(i);
     const Particle& b = Molecule(j);
-    const int32_t xi = roundToInt32(a.Xcoord());
-    const int32_t xj = roundToInt32(b.Xcoord());
-    const int32_t yi = roundToInt32(a.Ycoord());
-    const int32_t yj = roundToInt32(b.Ycoord());
-    const int32_t reach = m_radius <= 16383 && m_radius >= -16384 ? 2 * m_radius : Numeric::mul16(2, m_radius);
+    return WithinReach(roundToInt32(a.Xcoord()), roundToInt32(a.Ycoord()), b, ContactReach());
+}
+
+// Twice the sample's radius, as a 16-bit product.
+int32_t Gas::ContactReach() const
+{
+    return m_radius <= 16383 && m_radius >= -16384 ? 2 * m_radius : Numeric::mul16(2, m_radius);
+}
+
+// Whether a molecule whose centre rounds to (xi, yi) touches the other one: the
+// distance of the rounded centres is at most the reach.
+bool Gas::WithinReach(int32_t xi, int32_t yi, const Particle& other, int32_t reach)
+{
+    const int32_t xj = roundToInt32(other.Xcoord());
+    const int32_t yj = roundToInt32(other.Ycoord());
     // A pair further apart than the reach along either axis is apart whatever the
     // rounding of the distance; the distance itself is needed only near contact.
     const int64_t dx = int64_t(xi) - xj;

@@ -208,6 +208,8 @@ private:
     static void RotateVector(float a, float x, float y, float& along, float& across);
     void CollideMolecules(int16_t i, int16_t j);
     bool MoleculesInContact(int16_t i, int16_t j);
+    int32_t ContactReach() const;
+    static bool WithinReach(int32_t xi, int32_t yi, const Particle& other, int32_t reach);
     void ExchangeMolecules(int16_t i, int16_t j);
     void SetMaxV(int16_t value);
     void ExamineContacts(int16_t i);

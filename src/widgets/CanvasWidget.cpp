@@ -2,7 +2,10 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
+#include <QTimer>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -36,12 +39,29 @@ int16_t shiftCode(Qt::KeyboardModifiers modifiers)
 CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    m_canvas.setChangeListener([this] { update(); });
+    m_canvas.setPixelRatio(devicePixelRatioF());
+    m_canvas.setChangeListener([this] { scheduleShow(); });
+}
+
+void CanvasWidget::scheduleShow()
+{
+    if (m_showPending)
+        return;
+    m_showPending = true;
+    const QScreen* display = screen();
+    const qreal rate = display != nullptr && display->refreshRate() > 0 ? display->refreshRate() : 60.0;
+    const qint64 frame = std::clamp(qint64(std::lround(1000.0 / rate)), qint64(1), qint64(50));
+    const qint64 since = m_sinceShown.isValid() ? m_sinceShown.elapsed() : frame;
+    if (since >= frame)
+        update();
+    else
+        QTimer::singleShot(frame - since, Qt::PreciseTimer, this, [this] { update(); });
 }
 
 void CanvasWidget::fitCanvasToWidget()
 {
     const qreal ratio = devicePixelRatioF();
+    m_canvas.setPixelRatio(ratio);
     const int width = int(std::lround(this->width() * ratio));
     const int height = int(std::lround(this->height() * ratio));
     if (width != m_canvas.DeviceWidth() || height != m_canvas.DeviceHeight())
@@ -56,11 +76,23 @@ void CanvasWidget::repaintFromOwner()
     update();
 }
 
-void CanvasWidget::paintEvent(QPaintEvent*)
+void CanvasWidget::paintEvent(QPaintEvent* event)
 {
+    // The picture is already at the screen's resolution: the exposed part is
+    // copied pixel for pixel where the sizes agree, and only scaled while a new
+    // size has not reached the surface yet.
     QPainter painter(this);
-    painter.drawImage(rect(), m_canvas.image());
+    const QImage& image = m_canvas.image();
+    const qreal ratio = devicePixelRatioF();
+    const QRect exposed = event->rect() & rect();
+    const QRectF source(exposed.x() * ratio, exposed.y() * ratio, exposed.width() * ratio, exposed.height() * ratio);
+    if (image.width() == std::lround(width() * ratio) && image.height() == std::lround(height() * ratio))
+        painter.drawImage(QRectF(exposed), image, source);
+    else
+        painter.drawImage(rect(), image);
     m_canvas.markClean();
+    m_showPending = false;
+    m_sinceShown.restart();
 }
 
 void CanvasWidget::resizeEvent(QResizeEvent* event)

@@ -2,12 +2,15 @@
 
 #include "canvas/ImageCanvas.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include <functional>
 
 // A picture area on screen: shows its ImageCanvas, sized to the widget in device
 // pixels, and passes repaint requests and mouse events to the window that owns it.
+// A picture that changes faster than the screen refreshes (a simulation ticking
+// every millisecond) is shown at most once per screen frame.
 class CanvasWidget : public QWidget
 {
     Q_OBJECT
@@ -44,6 +47,7 @@ protected:
 
 private:
     void fitCanvasToWidget();
+    void scheduleShow();
     void forward(const MouseHandler& handler, QMouseEvent* event, bool pressedButtonOnly);
 
     ImageCanvas m_canvas;
@@ -52,4 +56,6 @@ private:
     MouseHandler m_mouseMove;
     MouseHandler m_mouseUp;
     bool m_drawnOnce = false;
+    bool m_showPending = false;
+    QElapsedTimer m_sinceShown;
 };

@@ -47,6 +47,8 @@ private slots:
     void copyModeDrawsTrueColours();
     void windingPolygon();
     void clsClearsToThePicture();
+    void aKeptCopyOfThePictureStaysAsItWas();
+    void pixelRatioDrawsTheSameFiguresFiner();
 };
 
 void CanvasTest::userScaleMapsToPixels()
@@ -224,6 +226,74 @@ void CanvasTest::clsClearsToThePicture()
     canvas.setPicture(QImage());
     canvas.Cls();
     QCOMPARE(canvas.pixelColor(5, 5), Blue);
+}
+
+void CanvasTest::aKeptCopyOfThePictureStaysAsItWas()
+{
+    ImageCanvas canvas = makeCanvas();
+    const QImage kept = canvas.image();
+    canvas.setDrawMode(Canvas::XorPen);
+    canvas.setFillStyle(Canvas::Solid);
+    canvas.setFillColor(Red ^ White);
+    canvas.Circle(500, 400, 200, Red ^ White);
+    canvas.setDrawMode(Canvas::CopyPen);
+    canvas.Line(0, 0, 1000, 800, Blue);
+    canvas.PSet(905, 105, Blue);
+    canvas.Box(100, 600, 300, 700, Blue);
+    QCOMPARE(canvas.pixelColor(50, 45), Red);
+    QCOMPARE(canvas.pixelColor(90, 10), Blue);
+    for (int y = 0; y < kept.height(); ++y)
+        for (int x = 0; x < kept.width(); ++x)
+            QCOMPARE(Rgb::fromQRgb(kept.pixel(x, y)), White);
+}
+
+void CanvasTest::pixelRatioDrawsTheSameFiguresFiner()
+{
+    // A 100 x 80 pixel picture on a double-density screen: 200 x 160 device pixels.
+    ImageCanvas canvas(200, 160);
+    canvas.setPixelRatio(2);
+    QCOMPARE(canvas.ScaleWidth(), 1500.0f);
+    canvas.setScalePixels();
+    QCOMPARE(canvas.ScaleWidth(), 100.0f);
+    QCOMPARE(canvas.ScaleHeight(), 80.0f);
+
+    // Pens are as wide as at ratio 1 in the program's pixels: twice the device pixels.
+    canvas.setScale(0, 0, 1000, 800);
+    canvas.Line(505, 105, 505, 705, Red);
+    // Device columns 101 and 102, from row 21 to row 142 where the pen ends.
+    QCOMPARE(countPixels(canvas, [](int32_t c) { return c == Red; }), 2 * 122);
+    QCOMPARE(canvas.pixelColor(101, 80), Red);
+    QCOMPARE(canvas.pixelColor(102, 80), Red);
+    canvas.Cls();
+    canvas.setDrawWidth(3);
+    canvas.PSet(505, 405, Red);
+    QCOMPARE(countPixels(canvas, [](int32_t c) { return c == Red; }), 36);
+
+    // Polygon points are the program's pixels too: the bar (10, 10) to (30, 20)
+    // fills device pixels 20..59 by 20..39 with its outline.
+    canvas.Cls();
+    canvas.setDrawWidth(1);
+    canvas.setFillStyle(Canvas::Solid);
+    canvas.setFillColor(Red);
+    canvas.setForeColor(Red);
+    canvas.Polygon({{10, 10}, {30, 10}, {30, 20}, {10, 20}});
+    QCOMPARE(canvas.pixelColor(20, 20), Red);
+    QCOMPARE(canvas.pixelColor(61, 41), Red);
+    QCOMPARE(canvas.pixelColor(62, 42), White);
+    QCOMPARE(canvas.pixelColor(19, 19), White);
+
+    // A circle's outline is two device pixels thick, and drawing it twice in
+    // exclusive-or mode still restores the picture.
+    canvas.Cls();
+    const QImage before = canvas.image();
+    canvas.setDrawMode(Canvas::XorPen);
+    canvas.setFillStyle(Canvas::Transparent);
+    canvas.Circle(500, 400, 200, Blue ^ White);
+    const int ring = countPixels(canvas, [](int32_t c) { return c == Blue; });
+    // About the area between radii of 40 and 38 device pixels.
+    QVERIFY2(ring > 450 && ring < 520, qPrintable(QString::number(ring)));
+    canvas.Circle(500, 400, 200, Blue ^ White);
+    QCOMPARE(canvas.image(), before);
 }
 
 QTEST_GUILESS_MAIN(CanvasTest)

@@ -100,9 +100,11 @@ public:
         int32_t x1, y1, x2, y2;
     };
 
-    LineRecorder() { setScale(0, 0, 4575, 4935); }
-    int32_t DeviceWidth() const override { return 4575; }
-    int32_t DeviceHeight() const override { return 4935; }
+    LineRecorder()
+    {
+        setDeviceSize(4575, 4935);
+        setScale(0, 0, 4575, 4935);
+    }
     std::vector<Segment> lines;
 
     // The shaft of the arrow from a body's centre along x (component 1) or up
