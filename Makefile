@@ -31,6 +31,7 @@ test: build
 bench: configure
 	@cmake --build $(BUILD) -j $(JOBS) --target benchmarks
 	@for b in $(BUILD)/bin/bench_*; do [ -x "$$b" ] && QT_QPA_PLATFORM=offscreen "$$b"; done; true
+	@bash bench/desktop_figures.sh $(BUILD)
 
 # The whole suite again in a build with AddressSanitizer and UndefinedBehaviorSanitizer.
 sanitize: deps

@@ -1,6 +1,8 @@
 #include "frmMacroView.h"
 
+#include "MovieFrameWidget.h"
 #include "MovieLayout.h"
+#include "MoviePlayer.h"
 
 #include "core/Twips.h"
 #include "widgets/FormLayout.h"
@@ -15,9 +17,7 @@
 #include <QMdiSubWindow>
 #include <QMediaPlayer>
 #include <QPushButton>
-#include <QUrl>
 #include <QVBoxLayout>
-#include <QVideoWidget>
 
 namespace {
 
@@ -30,15 +30,46 @@ QString& movieFolderOverride()
     return folder;
 }
 
+// The one player of the film, kept for the program's life (see MoviePlayer) and
+// lent to each opening of the view; it goes with the application object.
+MoviePlayer& moviePlayer()
+{
+    static QPointer<MoviePlayer> player;
+    if (!player)
+        player = new MoviePlayer(QCoreApplication::instance());
+    return *player;
+}
+
 } // namespace
 
-frmMacroView::frmMacroView()
+frmMacroView::frmMacroView() : m_player(moviePlayer())
 {
     setObjectName("frmMacroView");
     setWindowTitle("Macroscopic View");
     buildControls();
     resize(sizeHint());
     Form_Load();
+}
+
+frmMacroView::~frmMacroView()
+{
+    handBackFilm();
+}
+
+void frmMacroView::closeEvent(QCloseEvent* event)
+{
+    handBackFilm();
+    QWidget::closeEvent(event);
+}
+
+void frmMacroView::handBackFilm()
+{
+    if (m_filmHandedBack)
+        return;
+    m_filmHandedBack = true;
+    disconnect(&m_player, nullptr, this, nullptr);
+    disconnect(&m_player, nullptr, oleMovie, nullptr);
+    m_player.rewind();
 }
 
 QSize frmMacroView::sizeHint() const
@@ -50,7 +81,7 @@ void frmMacroView::buildControls()
 {
     buildMovieFrame();
     buildButtons();
-    buildPlayer();
+    connectPlayer();
 }
 
 void frmMacroView::buildMovieFrame()
@@ -62,7 +93,7 @@ void frmMacroView::buildMovieFrame()
     FormLayout::place(picMovie, 600, 240, 4815, 3375);
     auto* inside = new QVBoxLayout(picMovie);
     inside->setContentsMargins(2, 2, 2, 2);
-    oleMovie = new QVideoWidget(picMovie);
+    oleMovie = new MovieFrameWidget(picMovie);
     oleMovie->setObjectName("oleMovie");
     inside->addWidget(oleMovie);
     lblMovieMessage = new QLabel(picMovie);
@@ -89,27 +120,38 @@ void frmMacroView::buildButtons()
     StatusHints::install(cmdCommand[0], "Close the macroscopic view");
 }
 
-void frmMacroView::buildPlayer()
+void frmMacroView::connectPlayer()
 {
-    m_player = new QMediaPlayer(this);
-    m_player->setVideoOutput(oleMovie);
-    connect(m_player, &QMediaPlayer::errorOccurred, this, [this](QMediaPlayer::Error, const QString& error) {
-        showMovieMessage(QString("The film cannot be shown.\n\n\"floatrixo.avi\" could not be played:\n%1")
-                             .arg(error));
-    });
+    oleMovie->setFrame(m_player.currentFrame());
+    connect(&m_player, &MoviePlayer::frameChanged, oleMovie, &MovieFrameWidget::setFrame);
+    connect(&m_player, &MoviePlayer::failed, this, &frmMacroView::showPlayerError);
 }
 
 void frmMacroView::Form_Load()
 {
-    const QString& folder = movieFolderOverride();
-    const QString path = MoviePath(folder.isEmpty() ? QCoreApplication::applicationDirPath() : folder);
+    const QString path = filmPath();
     if (!QFileInfo(path).isReadable()) {
         showMovieMessage(QString("The film cannot be shown.\n\n\"floatrixo.avi\" is missing from the "
                                  "program's folder:\n%1")
                              .arg(QFileInfo(path).absolutePath()));
         return;
     }
-    m_player->setSource(QUrl::fromLocalFile(path));
+    m_player.load(path);
+    // A film found unplayable at an earlier opening stays so.
+    if (!m_player.errorString().isEmpty())
+        showPlayerError(m_player.errorString());
+}
+
+void frmMacroView::showPlayerError(const QString& error)
+{
+    showMovieMessage(
+        QString("The film cannot be shown.\n\n\"floatrixo.avi\" could not be played:\n%1").arg(error));
+}
+
+QString frmMacroView::filmPath()
+{
+    const QString& folder = movieFolderOverride();
+    return MoviePath(folder.isEmpty() ? QCoreApplication::applicationDirPath() : folder);
 }
 
 QString frmMacroView::MoviePath(const QString& folder)
@@ -120,6 +162,16 @@ QString frmMacroView::MoviePath(const QString& folder)
 void frmMacroView::setMovieFolder(const QString& folder)
 {
     movieFolderOverride() = folder;
+}
+
+QMediaPlayer* frmMacroView::player() const
+{
+    return m_player.mediaPlayer();
+}
+
+QImage frmMacroView::shownFrame() const
+{
+    return oleMovie->frame();
 }
 
 QString frmMacroView::movieMessage() const
@@ -143,7 +195,7 @@ void frmMacroView::cmdCommand_Click(int Index)
             CloseAndRelease(this);
             break;
         case 1:
-            m_player->play();
+            m_player.play();
             break;
         default:
             break;

@@ -5,11 +5,12 @@
 
 #include <array>
 
+class MovieFrameWidget;
+class MoviePlayer;
 class QFrame;
 class QLabel;
 class QMediaPlayer;
 class QPushButton;
-class QVideoWidget;
 
 // The "Macroscopic View" child window of the main frame: the film of a balloon
 // rising ("floatrixo.avi" from the program's folder) in its frame, with "Play" and
@@ -21,6 +22,8 @@ class frmMacroView : public QWidget
 public:
     // Loads the window and embeds the film.
     frmMacroView();
+    // Winds the film back for the next opening unless closing did.
+    ~frmMacroView() override;
 
     // 0 "Exit" unloads the window; 1 "Play" plays the film from where it stands.
     void cmdCommand_Click(int Index);
@@ -32,8 +35,11 @@ public:
     // program's own folder. Lets a test show the window without its film.
     static void setMovieFolder(const QString& folder);
 
-    // The player of the embedded film.
-    QMediaPlayer* player() const { return m_player; }
+    // The player of the embedded film, the same at every opening.
+    QMediaPlayer* player() const;
+
+    // The frame shown in the window; null while none came.
+    QImage shownFrame() const;
 
     // The message shown in the frame in place of the film; empty while the film
     // can be shown.
@@ -44,19 +50,26 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildControls();
     void buildMovieFrame();
     void buildButtons();
-    void buildPlayer();
+    void connectPlayer();
+    static QString filmPath();
+    void handBackFilm();
     void Form_Load();
     void Form_Resize();
     void showMovieMessage(const QString& text);
+    void showPlayerError(const QString& error);
 
     QFrame* picMovie = nullptr;
-    QVideoWidget* oleMovie = nullptr;
+    MovieFrameWidget* oleMovie = nullptr;
     QLabel* lblMovieMessage = nullptr;
-    QMediaPlayer* m_player = nullptr;
+    MoviePlayer& m_player;
+    // Whether this view has handed the film back; a closed view awaiting release
+    // must not stop the film a newer opening plays.
+    bool m_filmHandedBack = false;
     std::array<QPushButton*, 2> cmdCommand{};
 };

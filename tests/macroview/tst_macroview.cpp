@@ -13,6 +13,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <thread>
+
 namespace {
 
 frmMacroView& openView()
@@ -32,6 +37,60 @@ QMediaPlayer& player()
     return *Form<frmMacroView>().player();
 }
 
+// Lets the event loop run for a while without QTest::qWait's 10 ms sleeps.
+void spin(int ms)
+{
+    QElapsedTimer clock;
+    clock.start();
+    do {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    } while (clock.elapsed() < ms);
+}
+
+// Aborts the process with a message when the user-interface thread stops turning:
+// a timer on that thread counts turns, a thread of its own watches the count.
+class Watchdog
+{
+public:
+    Watchdog(int seconds, const std::atomic<int>& progress) : m_progress(progress)
+    {
+        QObject::connect(&m_beat, &QTimer::timeout, [this] { ++m_turns; });
+        m_beat.start(20);
+        m_thread = std::thread([this, seconds] { watch(seconds); });
+    }
+    ~Watchdog()
+    {
+        m_done = true;
+        m_thread.join();
+    }
+
+private:
+    void watch(int seconds)
+    {
+        using Clock = std::chrono::steady_clock;
+        int last = m_turns;
+        Clock::time_point since = Clock::now();
+        while (!m_done) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+            if (m_turns != last) {
+                last = m_turns;
+                since = Clock::now();
+            } else if (Clock::now() - since > std::chrono::seconds(seconds)) {
+                std::fprintf(stderr, "watchdog: the user-interface thread froze for %d s in opening %d "
+                                     "of the movie view\n", seconds, m_progress.load());
+                std::abort();
+            }
+        }
+    }
+
+    const std::atomic<int>& m_progress;
+    QTimer m_beat;
+    std::atomic<int> m_turns{0};
+    std::atomic<bool> m_done{false};
+    std::thread m_thread;
+};
+
 } // namespace
 
 class MacroViewTest : public QObject
@@ -42,6 +101,7 @@ private slots:
     void cleanup();
     void layoutFollowsTheOuterSize();
     void playGoesOnFromWhereTheFilmStandsAndExitUnloads();
+    void fastOpeningsNeverFreezeTheProgram();
     void missingOrUnreadableFilmLeavesAMessage();
 };
 
@@ -96,15 +156,51 @@ void MacroViewTest::playGoesOnFromWhereTheFilmStandsAndExitUnloads()
     QVERIFY(player().position() >= stoppedAt);
     QCOMPARE(player().error(), QMediaPlayer::NoError);
 
-    // Exit unloads the view with its player; the next opening embeds the film afresh.
+    // The window shows the film's frames, drawn without a video widget.
+    QTRY_COMPARE_WITH_TIMEOUT(Form<frmMacroView>().shownFrame().size(), QSize(320, 224), 5000);
+
+    // Exit unloads the view; the next opening finds the film wound back to its
+    // start, ready to play, in the one player the program keeps.
     QPointer<QMediaPlayer> first = &player();
     QTest::mouseClick(control("cmdCommand(0)"), Qt::LeftButton);
     QVERIFY(!IsLoaded<frmMacroView>());
-    QTRY_VERIFY(first.isNull());
     QVERIFY(Form<MDIMain>().isVisible());
+    QVERIFY(first->playbackState() != QMediaPlayer::PlayingState);
 
     openView();
+    QCOMPARE(&player(), first.data());
     QCOMPARE(player().source().toLocalFile(), QCoreApplication::applicationDirPath() + "/floatrixo.avi");
+    QCOMPARE(player().position(), 0);
+    QVERIFY(control("cmdCommand(1)")->isEnabled());
+    QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(player().position() > 0, 5000);
+}
+
+void MacroViewTest::fastOpeningsNeverFreezeTheProgram()
+{
+    // Opening, playing and leaving the view as fast as a restless pupil can, with
+    // pauses of varying length so that each step meets the film's streaming
+    // thread at another moment.
+    constexpr int Openings = 300;
+    std::atomic<int> opening{0};
+    Watchdog watchdog(10, opening);
+    openView();
+    QPointer<QMediaPlayer> kept = &player();
+    for (; opening < Openings; ++opening) {
+        if (!IsLoaded<frmMacroView>())
+            openView();
+        QCOMPARE(&player(), kept.data());
+        spin(opening % 23);
+        QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
+        spin(opening % 17);
+        QTest::mouseClick(control("cmdCommand(0)"), Qt::LeftButton);
+        QVERIFY(!IsLoaded<frmMacroView>());
+    }
+    // The film still plays after all that.
+    openView();
+    QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(player().position() > 0, 5000);
+    QCOMPARE(player().error(), QMediaPlayer::NoError);
 }
 
 void MacroViewTest::missingOrUnreadableFilmLeavesAMessage()
