@@ -30,19 +30,9 @@ QString& movieFolderOverride()
     return folder;
 }
 
-// The one player of the film, kept for the program's life (see MoviePlayer) and
-// lent to each opening of the view; it goes with the application object.
-MoviePlayer& moviePlayer()
-{
-    static QPointer<MoviePlayer> player;
-    if (!player)
-        player = new MoviePlayer(QCoreApplication::instance());
-    return *player;
-}
-
 } // namespace
 
-frmMacroView::frmMacroView() : m_player(moviePlayer())
+frmMacroView::frmMacroView(MoviePlayer& player) : m_player(player)
 {
     setObjectName("frmMacroView");
     setWindowTitle("Macroscopic View");

@@ -20,8 +20,9 @@ class frmMacroView : public QWidget
     Q_OBJECT
 
 public:
-    // Loads the window and embeds the film.
-    frmMacroView();
+    // Loads the window and shows the film through the program's one player, which
+    // outlives the window.
+    explicit frmMacroView(MoviePlayer& player);
     // Winds the film back for the next opening unless closing did.
     ~frmMacroView() override;
 

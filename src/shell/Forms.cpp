@@ -5,9 +5,12 @@
 
 #include "about/frmIdentify.h"
 #include "introduction/frmIntroduction.h"
+#include "macroview/MoviePlayer.h"
 #include "macroview/frmMacroView.h"
 #include "microview/frmMicroView.h"
 #include "widgets/StatusLine.h"
+
+#include <QCoreApplication>
 
 namespace {
 
@@ -38,7 +41,13 @@ frmIntroduction* NewForm(frmIntroduction*)
 
 frmMacroView* NewForm(frmMacroView*)
 {
-    return new frmMacroView();
+    // One player of the film for the program's life, lent to each opening of the
+    // view: a player made soon after the last one was torn down can freeze the
+    // media back end. It goes with the application object.
+    static QPointer<MoviePlayer> player;
+    if (!player)
+        player = new MoviePlayer(QCoreApplication::instance());
+    return new frmMacroView(*player);
 }
 
 frmMicroView* NewForm(frmMicroView*)
