@@ -1,5 +1,7 @@
 #include "Gas.h"
 
+#include "MoleculeContact.h"
+
 #include "canvas/Canvas.h"
 #include "canvas/Rgb.h"
 #include "core/Geometry.h"
@@ -7,28 +9,14 @@
 #include "core/RunTimeError.h"
 #include "core/SharedRandom.h"
 
-#include <algorithm>
-#include <climits>
 #include <cmath>
-#include <cstdlib>
 
 namespace {
 
+using MoleculeContact::RoundCentre;
+
 constexpr int32_t DefaultColor = Rgb::RGB(255, 0, 0);
 constexpr int32_t ObservedColor = Rgb::RGB(0, 0, 255);
-constexpr int32_t Black = Rgb::RGB(0, 0, 0);
-
-// Numeric::toInt32's rounding (to nearest, halves to even) without a library call,
-// for the contact tests of every pair in every step: adding and taking away
-// 1.5 x 2^52 rounds a double in the default rounding mode. Out of the safe range
-// Numeric::toInt32 decides, and throws where it must.
-int32_t roundToInt32(double value)
-{
-    constexpr double shifter = 6755399441055744.0;
-    if (std::fabs(value) < 1e9)
-        return static_cast<int32_t>((value + shifter) - shifter);
-    return Numeric::toInt32(value);
-}
 
 // 2 to the power j - 1: the bit that stands for partner j.
 double partnerBit(int16_t j)
@@ -135,15 +123,15 @@ void Gas::PlaceOnLattice(Particle& molecule, int16_t c, int16_t r)
     const double C = Numeric::add16(m_ColumnsOfMolecules, 1);
     const double R = Numeric::add16(m_RowsOfMolecules, 1);
     switch (m_Wall) {
-    case 0:
+    case SamplePainter::LeftWall:
         molecule.setOriginalXCenter(Numeric::toFloat(c * (SW - WC) / C + WC));
         molecule.setOriginalYCenter(Numeric::toFloat(r * SH / R));
         break;
-    case 1:
+    case SamplePainter::RightWall:
         molecule.setOriginalXCenter(Numeric::toFloat(c * (WC - SL) / C));
         molecule.setOriginalYCenter(Numeric::toFloat(r * SH / R));
         break;
-    case 2:
+    case SamplePainter::TopWall:
         molecule.setOriginalXCenter(Numeric::toFloat(c * SW / C));
         molecule.setOriginalYCenter(Numeric::toFloat(r * (SH - WC) / R + WC));
         break;
@@ -264,89 +252,17 @@ void Gas::DrawGas()
     if (m_GridOn)
         DrawGrid();
     surface.setDrawWidth(2);
-    DrawWall();
+    SamplePainter(surface, m_Wall, m_WallCoord).DrawWall();
     surface.setDrawWidth(1);
     ForEachMolecule([&](Particle& molecule) { molecule.DrawYourself(m_DrawCenterLine); });
 }
 
-// The grey box is the solid side of the wall, the black segment its face towards
-// the gas. Both are drawn with the exclusive-or pen, so their colours are given
-// combined with the background.
-void Gas::DrawWall()
-{
-    Canvas& surface = canvas();
-    const float SL = surface.ScaleLeft();
-    const float ST = surface.ScaleTop();
-    const float SW = surface.ScaleWidth();
-    const float SH = surface.ScaleHeight();
-    const float WC = m_WallCoord;
-    const int32_t B = surface.BackColor();
-    const auto greyPen = [&] {
-        surface.setFillStyle(Canvas::Solid);
-        surface.setFillColor(B ^ WallColor);
-        surface.setForeColor(surface.FillColor());
-    };
-    switch (m_Wall) {
-    case 2:
-        greyPen();
-        surface.Box(SL, ST, SL + SW, WC);
-        surface.setFillStyle(Canvas::Transparent);
-        surface.LineStep(SL, WC, SW, 0, B ^ Black);
-        break;
-    case 1:
-        greyPen();
-        surface.Box(WC, ST, SL + SW, ST + SH);
-        surface.setFillStyle(Canvas::Transparent);
-        surface.LineStep(WC, ST, 0, SH, B ^ Black);
-        break;
-    case 0:
-        surface.LineStep(WC, ST, 0, SH, B ^ Black);
-        greyPen();
-        surface.Box(SL, ST, WC, ST + SH);
-        surface.setFillStyle(Canvas::Transparent);
-        break;
-    default:
-        break;
-    }
-}
-
 void Gas::DrawGrid()
 {
-    Canvas& surface = canvas();
-    const float SL = surface.ScaleLeft();
-    const float ST = surface.ScaleTop();
-    const float SW = surface.ScaleWidth();
-    const float SH = surface.ScaleHeight();
-    const float WC = m_WallCoord;
-    float xStart = 0;
-    float xEnd = 0;
-    float yStart = 0;
-    switch (m_Wall) {
-    case 0:
-        xStart = WC;
-        xEnd = SL + SW;
-        yStart = ST;
-        break;
-    case 1:
-        xStart = SL;
-        xEnd = WC;
-        yStart = ST;
-        break;
-    case 2:
-        xStart = SL;
-        xEnd = SL + SW;
-        yStart = WC;
-        break;
-    default:
-        break;
-    }
-    const float yEnd = ST + SH;
-    surface.setDrawMode(Canvas::CopyPen);
-    ForEachMolecule([&](const Particle& molecule) {
-        surface.Line(molecule.XCenter(), yStart, molecule.XCenter(), yEnd, Black);
-        surface.Line(xStart, molecule.YCenter(), xEnd, molecule.YCenter(), Black);
-    });
-    surface.setDrawMode(Canvas::XorPen);
+    const SamplePainter painter(canvas(), m_Wall, m_WallCoord);
+    painter.BeginGrid();
+    ForEachMolecule([&](const Particle& molecule) { painter.DrawGridLines(molecule.XCenter(), molecule.YCenter()); });
+    painter.EndGrid();
 }
 
 void Gas::ApplyDrawingStyle()
@@ -491,14 +407,14 @@ void Gas::ExamineContacts(int16_t i)
     if (i >= m_NoOfMolecules)
         return;
     Particle& a = Molecule(i);
-    const int32_t xi = roundToInt32(a.Xcoord());
-    const int32_t yi = roundToInt32(a.Ycoord());
+    const int32_t xi = RoundCentre(a.Xcoord());
+    const int32_t yi = RoundCentre(a.Ycoord());
     const int32_t reach = ContactReach();
     for (int16_t j = i + 1; j <= m_NoOfMolecules; ++j) {
         const double b = partnerBit(j);
         const double c = a.CollisionInProgress();
-        const bool inContact = WithinReach(xi, yi, Molecule(j), reach);
-        const bool present = (roundToInt32(b) & roundToInt32(c)) != 0;
+        const bool inContact = MoleculeContact::WithinReach(xi, yi, Molecule(j), reach);
+        const bool present = (RoundCentre(b) & RoundCentre(c)) != 0;
         if (!inContact) {
             if (present)
                 a.setCollisionInProgress(c - b);
@@ -515,29 +431,13 @@ bool Gas::MoleculesInContact(int16_t i, int16_t j)
 {
     const Particle& a = Molecule(i);
     const Particle& b = Molecule(j);
-    return WithinReach(roundToInt32(a.Xcoord()), roundToInt32(a.Ycoord()), b, ContactReach());
+    return MoleculeContact::WithinReach(RoundCentre(a.Xcoord()), RoundCentre(a.Ycoord()), b, ContactReach());
 }
 
 // Twice the sample's radius, as a 16-bit product.
 int32_t Gas::ContactReach() const
 {
     return m_radius <= 16383 && m_radius >= -16384 ? 2 * m_radius : Numeric::mul16(2, m_radius);
-}
-
-// Whether a molecule whose centre rounds to (xi, yi) touches the other one: the
-// distance of the rounded centres is at most the reach.
-bool Gas::WithinReach(int32_t xi, int32_t yi, const Particle& other, int32_t reach)
-{
-    const int32_t xj = roundToInt32(other.Xcoord());
-    const int32_t yj = roundToInt32(other.Ycoord());
-    // A pair further apart than the reach along either axis is apart whatever the
-    // rounding of the distance; the distance itself is needed only near contact.
-    const int64_t dx = int64_t(xi) - xj;
-    const int64_t dy = int64_t(yi) - yj;
-    const bool differencesFit = std::max(std::llabs(dx), std::llabs(dy)) <= INT32_MAX;
-    if (differencesFit && (std::llabs(dx) > reach || std::llabs(dy) > reach))
-        return false;
-    return PointDistance(xi, xj, yi, yj) <= float(reach);
 }
 
 // An elastic collision of two discs: the velocity components along the line of

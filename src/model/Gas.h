@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Particle.h"
+#include "SamplePainter.h"
 
 #include <cstdint>
 #include <memory>
@@ -188,7 +189,7 @@ public:
     bool SavedLeaveTrail() const { return m_SavedLeaveTrail; }
 
     // The grey of the solid side of the measured wall.
-    static constexpr int32_t WallColor = 200 + 256 * 200 + 65536 * 200;
+    static constexpr int32_t WallColor = SamplePainter::WallColor;
 
 private:
     [[noreturn]] Particle& missingMolecule(int16_t i) const;
@@ -198,7 +199,6 @@ private:
     Canvas& canvas() const;
     void CreateMolecule(int16_t c, int16_t r, int16_t k);
     void PlaceOnLattice(Particle& molecule, int16_t c, int16_t r);
-    void DrawWall();
 
     void UpdatePhase();
     void CheckPhaseChange();
@@ -209,7 +209,6 @@ private:
     void CollideMolecules(int16_t i, int16_t j);
     bool MoleculesInContact(int16_t i, int16_t j);
     int32_t ContactReach() const;
-    static bool WithinReach(int32_t xi, int32_t yi, const Particle& other, int32_t reach);
     void ExchangeMolecules(int16_t i, int16_t j);
     void SetMaxV(int16_t value);
     void ExamineContacts(int16_t i);
