@@ -2,6 +2,7 @@
 
 #include "MovieLayout.h"
 
+#include "core/ProgramFiles.h"
 #include "core/Twips.h"
 #include "widgets/FormLayout.h"
 #include "widgets/WindowRelease.h"
@@ -102,7 +103,7 @@ void frmMacroView::buildPlayer()
 void frmMacroView::Form_Load()
 {
     const QString& folder = movieFolderOverride();
-    const QString path = MoviePath(folder.isEmpty() ? QCoreApplication::applicationDirPath() : folder);
+    const QString path = MoviePath(folder.isEmpty() ? ProgramFiles::folder("floatrixo.avi") : folder);
     if (!QFileInfo(path).isReadable()) {
         showMovieMessage(QString("The film cannot be shown.\n\n\"floatrixo.avi\" is missing from the "
                                  "program's folder:\n%1")
