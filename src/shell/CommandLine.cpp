@@ -21,12 +21,11 @@ struct ToolkitOption
     const char* name;
     bool takesValue;
 };
-constexpr ToolkitOption ToolkitOptions[] = {
-    {"platform", true}, {"platformpluginpath", true}, {"platformtheme", true}, {"plugin", true},
-    {"qwindowgeometry", true}, {"qwindowicon", true}, {"qwindowtitle", true}, {"geometry", true},
-    {"display", true}, {"title", true}, {"name", true}, {"session", true}, {"style", true},
-    {"stylesheet", true}, {"qmljsdebugger", true}, {"reverse", false}, {"widgetcount", false},
-    {"nograb", false}, {"dograb", false}, {"sync", false}};
+constexpr ToolkitOption ToolkitOptions[] = {{"platform", true}, {"platformpluginpath", true}, {"platformtheme", true},
+    {"plugin", true}, {"qwindowgeometry", true}, {"qwindowicon", true}, {"qwindowtitle", true}, {"geometry", true},
+    {"display", true}, {"title", true}, {"name", true}, {"session", true}, {"style", true}, {"stylesheet", true},
+    {"qmljsdebugger", true}, {"reverse", false}, {"widgetcount", false}, {"nograb", false}, {"dograb", false},
+    {"sync", false}};
 
 QString programName(const QStringList& arguments)
 {

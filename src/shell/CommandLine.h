@@ -7,7 +7,8 @@
 // it always has: no catalogue, no scaling.
 struct CommandLineOptions
 {
-    enum class Outcome {
+    enum class Outcome
+    {
         Run,         // start the program
         ShowHelp,    // print the help text and end
         ShowVersion, // print the name and version and end

@@ -21,10 +21,8 @@ void ProgramFilesTest::findsFilesBesideOrInstalled_data()
 
     QTest::newRow("build tree") << QStringList{"bin/pot_t1.bmp"} << "bin";
     QTest::newRow("installed") << QStringList{"share/floatrix/pot_t1.bmp"} << "share/floatrix";
-    QTest::newRow("beside wins over installed")
-        << QStringList{"bin/pot_t1.bmp", "share/floatrix/pot_t1.bmp"} << "bin";
-    QTest::newRow("missing, installed folder there") << QStringList{"share/floatrix/other.bmp"}
-                                                     << "share/floatrix";
+    QTest::newRow("beside wins over installed") << QStringList{"bin/pot_t1.bmp", "share/floatrix/pot_t1.bmp"} << "bin";
+    QTest::newRow("missing, installed folder there") << QStringList{"share/floatrix/other.bmp"} << "share/floatrix";
     QTest::newRow("missing, nothing installed") << QStringList{} << "bin";
 }
 

@@ -34,10 +34,9 @@ void CommandLineTest::readsOptions_data()
     QTest::newRow("english, joined") << QStringList{"--lang=en"} << Outcome::Run << "en" << 0.0;
     QTest::newRow("scale 2") << QStringList{"--scale", "2"} << Outcome::Run << "" << 2.0;
     QTest::newRow("scale limits") << QStringList{"--scale", "1", "--scale", "3"} << Outcome::Run << "" << 3.0;
-    QTest::newRow("scale and language") << QStringList{"--scale=1.5", "--lang", "el"} << Outcome::Run << "el"
-                                        << 1.5;
-    QTest::newRow("toolkit options pass") << QStringList{"-platform", "offscreen", "-reverse", "-style=fusion"}
-                                          << Outcome::Run << "" << 0.0;
+    QTest::newRow("scale and language") << QStringList{"--scale=1.5", "--lang", "el"} << Outcome::Run << "el" << 1.5;
+    QTest::newRow("toolkit options pass")
+        << QStringList{"-platform", "offscreen", "-reverse", "-style=fusion"} << Outcome::Run << "" << 0.0;
     QTest::newRow("help") << QStringList{"--help"} << Outcome::ShowHelp << "" << 0.0;
     QTest::newRow("short help") << QStringList{"-h"} << Outcome::ShowHelp << "" << 0.0;
     QTest::newRow("version") << QStringList{"--version"} << Outcome::ShowVersion << "" << 0.0;
@@ -112,10 +111,14 @@ void CommandLineTest::builtProgramAnswersWithoutStarting_data()
     QTest::addColumn<QString>("out");
     QTest::addColumn<QString>("err");
 
-    QTest::newRow("version") << QStringList{"--version"} << 0 << "Floatrix 1." << "";
-    QTest::newRow("help") << QStringList{"--help"} << 0 << "--lang <el|en>" << "";
-    QTest::newRow("unknown") << QStringList{"--bogus"} << 2 << "" << "floatrix: unknown option 'bogus'";
-    QTest::newRow("bad scale") << QStringList{"--scale", "4"} << 2 << "" << "floatrix: --scale takes";
+    QTest::newRow("version") << QStringList{"--version"} << 0 << "Floatrix 1."
+                             << "";
+    QTest::newRow("help") << QStringList{"--help"} << 0 << "--lang <el|en>"
+                          << "";
+    QTest::newRow("unknown") << QStringList{"--bogus"} << 2 << ""
+                             << "floatrix: unknown option 'bogus'";
+    QTest::newRow("bad scale") << QStringList{"--scale", "4"} << 2 << ""
+                               << "floatrix: --scale takes";
 }
 
 void CommandLineTest::builtProgramAnswersWithoutStarting()
