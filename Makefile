@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps configure build run test bench sanitize random-input clean
+.PHONY: all deps configure build run test bench sanitize random-input translations install clean
 
 all: build
 
@@ -45,6 +45,17 @@ SEED ?= 1
 random-input: build
 	@FLOATRIX_RANDOM_EVENTS=$(EVENTS) FLOATRIX_RANDOM_SEED=$(SEED) QT_QPA_PLATFORM=offscreen \
 	  XDG_RUNTIME_DIR=$(CURDIR)/$(BUILD)/xdg-runtime $(BUILD)/bin/tst_random_input
+
+# Gathers every text of the sources into translations/*.ts (new texts come in
+# unfinished, for a translator to fill in with Qt Linguist).
+translations: configure
+	@cmake --build $(BUILD) --target update_translations
+
+# Installs into PREFIX (bin/, share/floatrix/, share/applications/, share/icons/,
+# share/metainfo/).
+PREFIX ?= /usr/local
+install: build
+	@cmake --install $(BUILD) --prefix $(PREFIX)
 
 clean:
 	@rm -rf $(BUILD)

@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building, testing and benchmarking Floatrix need.
+# Installs the Debian packages that building, testing and benchmarking Floatrix need
+# (with Qt Linguist's tools for the catalogues and the validators of the installed
+# desktop file and metadata).
 # Does nothing when they are all present already.
 set -euo pipefail
 
@@ -9,6 +11,8 @@ packages=(
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good
   xvfb xauth
   libbenchmark-dev
+  qt6-l10n-tools qt6-tools-dev
+  desktop-file-utils appstream
 )
 
 missing=()

@@ -1,11 +1,10 @@
 #include "ProgramImages.h"
 
-#include <QCoreApplication>
-#include <QDir>
+#include "core/ProgramFiles.h"
 
 QString ProgramImages::programFile(const QString& name)
 {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(name);
+    return ProgramFiles::path(name);
 }
 
 QIcon ProgramImages::icon()

@@ -4,8 +4,9 @@
 #include <QPixmap>
 #include <QString>
 
-// The program's own pictures, kept beside the executable: the icon of its windows
-// and the banner of the title panel. A missing file gives an empty picture.
+// The program's own pictures, kept with its other files (see ProgramFiles): the icon
+// of its windows and the banner of the title panel. A missing file gives an empty
+// picture.
 class ProgramImages
 {
 public:

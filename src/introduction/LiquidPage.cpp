@@ -5,6 +5,7 @@
 #include "canvas/ImageCanvas.h"
 #include "canvas/Rgb.h"
 #include "core/Numeric.h"
+#include "core/ProgramFiles.h"
 #include "model/FluidParameters.h"
 #include "widgets/StatusLine.h"
 
@@ -49,7 +50,7 @@ void LiquidPage::setPictureFolder(const QString& folder)
 
 void LiquidPage::loadPicture(const QString& name)
 {
-    const QString folder = m_pictureFolder.isEmpty() ? QCoreApplication::applicationDirPath() : m_pictureFolder;
+    const QString folder = m_pictureFolder.isEmpty() ? ProgramFiles::folder(name) : m_pictureFolder;
     const PictureFile file(QDir(folder).filePath(name));
     if (file.status() != PictureFile::Status::Read) {
         // A damaged picture is left out whole rather than shown in part.

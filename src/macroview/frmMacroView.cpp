@@ -4,6 +4,7 @@
 #include "MovieLayout.h"
 #include "MoviePlayer.h"
 
+#include "core/ProgramFiles.h"
 #include "core/Twips.h"
 #include "widgets/FormLayout.h"
 #include "widgets/WindowRelease.h"
@@ -141,7 +142,7 @@ void frmMacroView::showPlayerError(const QString& error)
 QString frmMacroView::filmPath()
 {
     const QString& folder = movieFolderOverride();
-    return MoviePath(folder.isEmpty() ? QCoreApplication::applicationDirPath() : folder);
+    return MoviePath(folder.isEmpty() ? ProgramFiles::folder("floatrixo.avi") : folder);
 }
 
 QString frmMacroView::MoviePath(const QString& folder)

@@ -5,12 +5,35 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <QSvgGenerator>
 
 QImage EmblemPictures::icon(int size)
 {
     QImage image(size, size, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
     QPainter painter(&image);
+    drawIcon(painter, size);
+    return image;
+}
+
+bool EmblemPictures::writeIconSvg(const QString& path)
+{
+    constexpr int Size = 64;
+    QSvgGenerator svg;
+    svg.setFileName(path);
+    svg.setSize(QSize(Size, Size));
+    svg.setViewBox(QRect(0, 0, Size, Size));
+    svg.setTitle(QStringLiteral("Floatrix"));
+    svg.setDescription(QStringLiteral("A paper hot-air balloon on a night-blue tile"));
+    QPainter painter;
+    if (!painter.begin(&svg))
+        return false;
+    drawIcon(painter, Size);
+    return painter.end();
+}
+
+void EmblemPictures::drawIcon(QPainter& painter, double size)
+{
     painter.setRenderHint(QPainter::Antialiasing);
     const double s = size / 64.0;
     QLinearGradient night(0, 0, 0, size);
@@ -25,7 +48,6 @@ QImage EmblemPictures::icon(int size)
     balloon.centre = QPointF(32 * s, 21 * s);
     balloon.turn = 0.1;
     balloon.draw(painter);
-    return image;
 }
 
 QImage EmblemPictures::banner()

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QImage>
+#include <QString>
+
+class QPainter;
 
 // The program's own pictures: its icon and the tall banner of the title panel in
 // the splash and About box.
@@ -10,7 +13,13 @@ public:
     // The program icon: the balloon on a night-blue tile, size x size pixels.
     static QImage icon(int size);
 
+    // The same icon as a scalable SVG drawing of 64 x 64 units, written to path.
+    static bool writeIconSvg(const QString& path);
+
     // The banner beside the title texts: the balloon rising over the roofs at dusk,
     // 103 x 189 pixels.
     static QImage banner();
+
+private:
+    static void drawIcon(QPainter& painter, double size);
 };

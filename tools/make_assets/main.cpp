@@ -35,6 +35,24 @@ bool report(bool done, const QDir& folder, const char* name)
     return done;
 }
 
+// The icon for the desktop's icon theme, under icons/hicolor/ in the layout the
+// theme is installed in: a drawing that scales, and bitmaps at the usual sizes.
+bool writeThemeIcons(const QDir& folder)
+{
+    const QString name = QStringLiteral("org.floatrix.Floatrix");
+    const QString scalable = QStringLiteral("icons/hicolor/scalable/apps");
+    bool ok = folder.mkpath(scalable);
+    const QString svg = scalable + '/' + name + ".svg";
+    ok = report(ok && EmblemPictures::writeIconSvg(folder.filePath(svg)), folder, qPrintable(svg)) && ok;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        const QString sized = QStringLiteral("icons/hicolor/%1x%1/apps").arg(size);
+        const QString png = sized + '/' + name + ".png";
+        const bool made = folder.mkpath(sized) && EmblemPictures::icon(size).save(folder.filePath(png), "PNG");
+        ok = report(made, folder, qPrintable(png)) && ok;
+    }
+    return ok;
+}
+
 } // namespace
 
 // Draws the pictures and renders the film into the folder given as the only
@@ -54,5 +72,6 @@ int main(int argc, char* argv[])
     ok = report(EmblemPictures::icon(64).save(folder.filePath("floatrix.png"), "PNG"), folder, "floatrix.png") && ok;
     ok = report(EmblemPictures::banner().save(folder.filePath("floatrix_banner.png"), "PNG"), folder, "floatrix_banner.png") && ok;
     ok = report(writeFilm(folder), folder, "floatrixo.avi") && ok;
+    ok = writeThemeIcons(folder) && ok;
     return ok ? 0 : 1;
 }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+// Where the program finds its own files (the liquid pages' pictures, the film, the
+// icon and banner): beside its executable when it runs from the build tree, in
+// ../share/floatrix relative to it when it is installed.
+class ProgramFiles
+{
+public:
+    // The folder to read the file `name` from: the executable's folder when the file
+    // is there, else the installed share folder when that folder exists, else the
+    // executable's folder (so that a missing file is reported where it was sought).
+    static QString folder(const QString& name);
+
+    // The full path of the file `name` in that folder.
+    static QString path(const QString& name);
+
+    // The same search for an executable kept in programFolder.
+    static QString folderFrom(const QString& programFolder, const QString& name);
+};
