@@ -1,5 +1,7 @@
 #include "RunTimeError.h"
 
+#include <QtGlobal>
+
 RunTimeError::RunTimeError(int32_t number, const std::string& message)
     : std::runtime_error(message), m_number(number)
 {
@@ -7,25 +9,25 @@ RunTimeError::RunTimeError(int32_t number, const std::string& message)
 
 RunTimeError RunTimeError::overflow()
 {
-    return RunTimeError(Overflow, "Overflow");
+    return RunTimeError(Overflow, QT_TRANSLATE_NOOP("RunTimeError", "Overflow"));
 }
 
 RunTimeError RunTimeError::divisionByZero()
 {
-    return RunTimeError(DivisionByZero, "Division by zero");
+    return RunTimeError(DivisionByZero, QT_TRANSLATE_NOOP("RunTimeError", "Division by zero"));
 }
 
 RunTimeError RunTimeError::subscriptOutOfRange()
 {
-    return RunTimeError(SubscriptOutOfRange, "Subscript out of range");
+    return RunTimeError(SubscriptOutOfRange, QT_TRANSLATE_NOOP("RunTimeError", "Subscript out of range"));
 }
 
 RunTimeError RunTimeError::invalidProcedureCall()
 {
-    return RunTimeError(InvalidProcedureCall, "Invalid procedure call or argument");
+    return RunTimeError(InvalidProcedureCall, QT_TRANSLATE_NOOP("RunTimeError", "Invalid procedure call or argument"));
 }
 
 RunTimeError RunTimeError::objectNotSet()
 {
-    return RunTimeError(ObjectNotSet, "Object variable or With block variable not set");
+    return RunTimeError(ObjectNotSet, QT_TRANSLATE_NOOP("RunTimeError", "Object variable or With block variable not set"));
 }

@@ -1,15 +1,24 @@
 #include "BodyParameterHints.h"
 
+#include <QCoreApplication>
 #include <QHash>
-#include <QStringList>
+
+#include <vector>
 
 namespace BodyParameterHints {
 
 namespace {
 
-QString ordinal(int n)
+// The hints are translated in the context "BodyParameterHints"; %1 is the body's
+// number and %2 the limit of a range.
+QString tr(const char* text)
 {
-    return QString::number(n) + QStringLiteral("ου σώματος");
+    return QCoreApplication::translate("BodyParameterHints", text);
+}
+
+QString withBody(const char* text, int n)
+{
+    return tr(text).arg(n);
 }
 
 } // namespace
@@ -18,17 +27,17 @@ QString labelHint(int kind, int n)
 {
     switch (kind) {
     case Mass:
-        return QStringLiteral("Μάζα ") + ordinal(n);
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Μάζα %1ου σώματος"), n);
     case Radius:
-        return QStringLiteral("Ακτίνα ") + ordinal(n);
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Ακτίνα %1ου σώματος"), n);
     case PositionX:
-        return QStringLiteral("Αρχική θέση (x-άξονας) ") + ordinal(n);
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Αρχική θέση (x-άξονας) %1ου σώματος"), n);
     case PositionY:
-        return QStringLiteral("Αρχική θέση (y-άξονας) ") + ordinal(n);
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Αρχική θέση (y-άξονας) %1ου σώματος"), n);
     case VelocityX:
-        return QStringLiteral("Ταχύτητα ") + ordinal(n) + QStringLiteral(" στον x-άξονα");
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Ταχύτητα %1ου σώματος στον x-άξονα"), n);
     case VelocityY:
-        return QStringLiteral("Ταχύτητα ") + ordinal(n) + QStringLiteral(" στον y-άξονα");
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Ταχύτητα %1ου σώματος στον y-άξονα"), n);
     default:
         return QString();
     }
@@ -39,78 +48,92 @@ QString unitHint(int index)
     const int n = index / KindCount + 1;
     switch (index % KindCount) {
     case Mass:
-        return labelHint(Mass, n) + QStringLiteral(" (σε kgr)");
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Μάζα %1ου σώματος (σε kgr)"), n);
     case Radius:
-        return labelHint(Radius, n) + QStringLiteral(" (σε m)");
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Ακτίνα %1ου σώματος (σε m)"), n);
     // The position hints of the unit labels run the body's number on.
     case PositionX:
-        return QStringLiteral("Αρχική θέση (x-άξονας)") + ordinal(n) + QStringLiteral(" (σε m)");
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Αρχική θέση (x-άξονας)%1ου σώματος (σε m)"), n);
     case PositionY:
-        return QStringLiteral("Αρχική θέση (y-άξονας)") + ordinal(n) + QStringLiteral(" (σε m)");
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Αρχική θέση (y-άξονας)%1ου σώματος (σε m)"), n);
     case VelocityX:
-        return labelHint(VelocityX, n) + QStringLiteral(" (σε m/sec)");
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Ταχύτητα %1ου σώματος στον x-άξονα (σε m/sec)"), n);
     default:
-        return labelHint(VelocityY, n) + QStringLiteral(" (σε m/sec)");
+        return withBody(QT_TRANSLATE_NOOP("BodyParameterHints", "Ταχύτητα %1ου σώματος στον y-άξονα (σε m/sec)"), n);
     }
 }
 
 QString fieldHint(int kind, int n, int16_t max)
 {
-    const QString limit = QString::number(max);
-    const QString symmetric = QStringLiteral(" [-") + limit + QStringLiteral(",") + limit + QStringLiteral("]");
+    const char* text = nullptr;
     switch (kind) {
     case Mass:
-        return QStringLiteral("Εισαγωγή μάζας ") + ordinal(n) + QStringLiteral(" (0,") + limit + QStringLiteral("]");
+        text = QT_TRANSLATE_NOOP("BodyParameterHints", "Εισαγωγή μάζας %1ου σώματος (0,%2]");
+        break;
     case Radius:
-        return QStringLiteral("Εισαγωγή ακτίνας ") + ordinal(n) + QStringLiteral(" (0,") + limit + QStringLiteral("]");
+        text = QT_TRANSLATE_NOOP("BodyParameterHints", "Εισαγωγή ακτίνας %1ου σώματος (0,%2]");
+        break;
     case PositionX:
-        return QStringLiteral("Εισαγωγή αρχικής θέσης (x-άξονας) ") + ordinal(n) + symmetric;
+        text = QT_TRANSLATE_NOOP("BodyParameterHints", "Εισαγωγή αρχικής θέσης (x-άξονας) %1ου σώματος [-%2,%2]");
+        break;
     case PositionY:
-        return QStringLiteral("Εισαγωγή αρχικής θέσης (y-άξονας) ") + ordinal(n) + symmetric;
+        text = QT_TRANSLATE_NOOP("BodyParameterHints", "Εισαγωγή αρχικής θέσης (y-άξονας) %1ου σώματος [-%2,%2]");
+        break;
     case VelocityX:
-        return QStringLiteral("Εισαγωγή ταχύτητας ") + ordinal(n) + QStringLiteral(" στον x-άξονα") + symmetric;
+        text = QT_TRANSLATE_NOOP("BodyParameterHints", "Εισαγωγή ταχύτητας %1ου σώματος στον x-άξονα [-%2,%2]");
+        break;
     case VelocityY:
-        return QStringLiteral("Εισαγωγή ταχύτητας ") + ordinal(n) + QStringLiteral(" στον y-άξονα") + symmetric;
+        text = QT_TRANSLATE_NOOP("BodyParameterHints", "Εισαγωγή ταχύτητας %1ου σώματος στον y-άξονα [-%2,%2]");
+        break;
     default:
         return QString();
     }
+    return tr(text).arg(QString::number(n), QString::number(max));
 }
 
 QString controlHint(const QString& name, int index)
 {
-    static const QHash<QString, QString> single = {
-        {QStringLiteral("fraCollisionData"), QStringLiteral("Παράμετροι κρούσης")},
-        {QStringLiteral("fraColors"), QStringLiteral("Επιλογές Χρωματικής Απεικόνισης")},
-        {QStringLiteral("fraGraphs"), QStringLiteral("Επιλογή Γραφικών Παραστάσεων")},
+    static const QHash<QString, const char*> single = {
+        {QStringLiteral("fraCollisionData"), QT_TRANSLATE_NOOP("BodyParameterHints", "Παράμετροι κρούσης")},
+        {QStringLiteral("fraColors"), QT_TRANSLATE_NOOP("BodyParameterHints", "Επιλογές Χρωματικής Απεικόνισης")},
+        {QStringLiteral("fraGraphs"), QT_TRANSLATE_NOOP("BodyParameterHints", "Επιλογή Γραφικών Παραστάσεων")},
         {QStringLiteral("fraModel"),
-            QStringLiteral("Επιλογές Μαθηματικού Μοντέλου Δυνάμεων που αναπτύσσονται κατά την κρούση")},
-        {QStringLiteral("fraVisualisationOption"), QStringLiteral("Διακόπτες Απεικόνισης Διανυσμάτων")},
-        {QStringLiteral("chkGraphF"), QStringLiteral("Έλεγχος γραφικής παράστασης δυνάμεων")},
-        {QStringLiteral("chkGraphS"), QStringLiteral("Έλεγχος γραφικής παράστασης μετατοπίσεων")},
-        {QStringLiteral("chkGraphU"), QStringLiteral("Έλεγχος γραφικής παράστασης ταχυτήτων")},
-        {QStringLiteral("chkProportional"), QStringLiteral("Διατήρηση αναλογίας αξόνων γραφικών παραστάσεων")},
-        {QStringLiteral("chkShowForces"), QStringLiteral("Έλεγχος απεικόνισης δυνάμεων")},
-        {QStringLiteral("chkShowVelocities"), QStringLiteral("Έλεγχος απεικόνισης ταχυτήτων")},
+            QT_TRANSLATE_NOOP(
+                "BodyParameterHints", "Επιλογές Μαθηματικού Μοντέλου Δυνάμεων που αναπτύσσονται κατά την κρούση")},
+        {QStringLiteral("fraVisualisationOption"),
+            QT_TRANSLATE_NOOP("BodyParameterHints", "Διακόπτες Απεικόνισης Διανυσμάτων")},
+        {QStringLiteral("chkGraphF"), QT_TRANSLATE_NOOP("BodyParameterHints", "Έλεγχος γραφικής παράστασης δυνάμεων")},
+        {QStringLiteral("chkGraphS"),
+            QT_TRANSLATE_NOOP("BodyParameterHints", "Έλεγχος γραφικής παράστασης μετατοπίσεων")},
+        {QStringLiteral("chkGraphU"), QT_TRANSLATE_NOOP("BodyParameterHints", "Έλεγχος γραφικής παράστασης ταχυτήτων")},
+        {QStringLiteral("chkProportional"),
+            QT_TRANSLATE_NOOP("BodyParameterHints", "Διατήρηση αναλογίας αξόνων γραφικών παραστάσεων")},
+        {QStringLiteral("chkShowForces"), QT_TRANSLATE_NOOP("BodyParameterHints", "Έλεγχος απεικόνισης δυνάμεων")},
+        {QStringLiteral("chkShowVelocities"), QT_TRANSLATE_NOOP("BodyParameterHints", "Έλεγχος απεικόνισης ταχυτήτων")},
     };
-    static const QHash<QString, QStringList> indexed = {
+    static const QHash<QString, std::vector<const char*>> indexed = {
         {QStringLiteral("optModel"),
-            {QStringLiteral("Γραμμική προσέγγιση συναρτήσεων ταχύτητας/δύναμης"),
-                QStringLiteral("Συνέχεια Συνάρτησης Ταχύτητας"),
-                QStringLiteral("Συνέχεια Συνάρτησης Ταχύτητας/Δύναμης")}},
+            {QT_TRANSLATE_NOOP("BodyParameterHints", "Γραμμική προσέγγιση συναρτήσεων ταχύτητας/δύναμης"),
+                QT_TRANSLATE_NOOP("BodyParameterHints", "Συνέχεια Συνάρτησης Ταχύτητας"),
+                QT_TRANSLATE_NOOP("BodyParameterHints", "Συνέχεια Συνάρτησης Ταχύτητας/Δύναμης")}},
         {QStringLiteral("lblColorSelection"),
-            {QStringLiteral("Επιλογή χρώματος 1ου σώματος"), QStringLiteral("Επιλογή χρώματος 2ου σώματος"),
-                QStringLiteral("Επιλογή χρώματος διανυσμάτων ταχύτητας"),
-                QStringLiteral("Επιλογή χρώματος διανυσμάτων δύναμης")}},
+            {QT_TRANSLATE_NOOP("BodyParameterHints", "Επιλογή χρώματος 1ου σώματος"),
+                QT_TRANSLATE_NOOP("BodyParameterHints", "Επιλογή χρώματος 2ου σώματος"),
+                QT_TRANSLATE_NOOP("BodyParameterHints", "Επιλογή χρώματος διανυσμάτων ταχύτητας"),
+                QT_TRANSLATE_NOOP("BodyParameterHints", "Επιλογή χρώματος διανυσμάτων δύναμης")}},
         {QStringLiteral("lblCurrentColor"),
-            {QStringLiteral("Τρέχον χρώμα 1ου σώματος"), QStringLiteral("Τρέχον χρώμα 2ου σώματος"),
-                QStringLiteral("Τρέχον χρώμα διανυσμάτων ταχύτητας"),
-                QStringLiteral("Τρέχον χρώμα διανυσμάτων δύναμης")}},
+            {QT_TRANSLATE_NOOP("BodyParameterHints", "Τρέχον χρώμα 1ου σώματος"),
+                QT_TRANSLATE_NOOP("BodyParameterHints", "Τρέχον χρώμα 2ου σώματος"),
+                QT_TRANSLATE_NOOP("BodyParameterHints", "Τρέχον χρώμα διανυσμάτων ταχύτητας"),
+                QT_TRANSLATE_NOOP("BodyParameterHints", "Τρέχον χρώμα διανυσμάτων δύναμης")}},
     };
     if (single.contains(name))
-        return single.value(name);
+        return tr(single.value(name));
     const QString family = name == QStringLiteral("cmdColorSelection") ? QStringLiteral("lblColorSelection") : name;
-    const QStringList texts = indexed.value(family);
-    return index >= 0 && index < texts.size() ? texts[index] : QString();
+    const auto texts = indexed.find(family);
+    if (texts == indexed.end() || index < 0 || index >= int(texts->size()))
+        return QString();
+    return tr((*texts)[size_t(index)]);
 }
 
 } // namespace BodyParameterHints

@@ -11,7 +11,9 @@
 
 namespace {
 
-constexpr int16_t AboveView = 1;
+constexpr int16_t AboveView = CollisionSetup::AboveView;
+// The graphs follow the motion along x, the side view's one direction.
+constexpr int16_t GraphComponent = CollisionState::ComponentX;
 // Enough grid lines for any panel; only a broken range could ask for more.
 constexpr int MaxGridLines = 1000;
 
@@ -61,13 +63,13 @@ void CollisionGraphs::LayoutGraphs(const Canvas& canvas, const CollisionSetup& s
 void CollisionGraphs::GraphExtremes(CollisionState& state, int16_t panel, int16_t quantity)
 {
     GraphTimeStep[panel] = (GraphTimeMax[panel] - GraphTimeMin[panel]) / Steps;
-    float low = state.BodyState(1, quantity, 1, GraphTimeMin[panel]);
+    float low = state.BodyState(GraphComponent, quantity, 1, GraphTimeMin[panel]);
     float high = low;
     for (int16_t body = 1; body <= 2; ++body) {
         float t = GraphTimeMin[panel];
         for (int step = 0; step < Steps; ++step) {
             t += GraphTimeStep[panel];
-            const float v = state.BodyState(1, quantity, body, t);
+            const float v = state.BodyState(GraphComponent, quantity, body, t);
             low = SmallerOf(low, v);
             high = LargerOf(high, v);
         }
@@ -169,7 +171,7 @@ void CollisionGraphs::StartGraphClocks(CollisionState& state)
     for (int16_t g = 1; g <= GraphCount; ++g) {
         GraphClock[g] = GraphTimeMin[g];
         for (int16_t body = 1; body <= 2; ++body)
-            GraphLastValue[g][body] = state.BodyState(1, GraphQuantity[g], body, GraphClock[g]);
+            GraphLastValue[g][body] = state.BodyState(GraphComponent, GraphQuantity[g], body, GraphClock[g]);
     }
     GraphStepFlag.fill(0);
 }
@@ -192,7 +194,7 @@ void CollisionGraphs::drawCurveStep(Canvas& canvas, const CollisionSetup& setup,
     if (drawable)
         canvas.PSet(pictureX(panel, before), pictureY(panel, GraphLastValue[panel][body]), pen);
     const float t = before + GraphTimeStep[panel];
-    const float v = state.BodyState(1, quantity, body, t);
+    const float v = state.BodyState(GraphComponent, quantity, body, t);
     GraphLastValue[panel][body] = v;
 
     // The force of the linear and constant-force models is a step function: it
@@ -238,7 +240,7 @@ void CollisionGraphs::ZoomGraph(Canvas& canvas, const CollisionSetup& setup, Col
     GraphRange(setup, state, ZoomPanel, quantity, t1, t2);
     GraphClock[ZoomPanel] = GraphTimeMin[ZoomPanel];
     for (int16_t body = 1; body <= 2; ++body)
-        GraphLastValue[ZoomPanel][body] = state.BodyState(1, quantity, body, GraphClock[ZoomPanel]);
+        GraphLastValue[ZoomPanel][body] = state.BodyState(GraphComponent, quantity, body, GraphClock[ZoomPanel]);
     GraphStepFlag.fill(0);
     DrawGraphFrames(canvas, 1);
     for (int step = 0; step < Steps; ++step) {

@@ -11,8 +11,10 @@
 
 namespace {
 
-constexpr int16_t AboveView = 1;
-constexpr int16_t SideView = 2;
+constexpr int16_t AboveView = CollisionSetup::AboveView;
+constexpr int16_t SideView = CollisionSetup::SideView;
+constexpr int16_t ComponentX = CollisionState::ComponentX;
+constexpr int16_t ComponentY = CollisionState::ComponentY;
 
 int32_t colourOf(float stored)
 {
@@ -117,9 +119,10 @@ void CollisionScene::DrawVectors(Canvas& canvas, const CollisionSetup& setup, Co
 {
     const float t = state.SimulationTime;
     const auto pair = [&](int16_t quantity, float scale, float colour, float xDirection) {
-        DrawVectorPair(canvas, page, xDirection * state.BodyState(1, quantity, 1, t),
-                       xDirection * state.BodyState(1, quantity, 2, t), state.BodyState(2, quantity, 1, t),
-                       state.BodyState(2, quantity, 2, t), scale, colour);
+        DrawVectorPair(canvas, page, xDirection * state.BodyState(ComponentX, quantity, 1, t),
+                       xDirection * state.BodyState(ComponentX, quantity, 2, t),
+                       state.BodyState(ComponentY, quantity, 1, t), state.BodyState(ComponentY, quantity, 2, t),
+                       scale, colour);
     };
     if (setup.ShowVelocities == 1)
         pair(CollisionState::Velocity, VelocityScale(setup, state, page), setup.VelocityColor, 1);
@@ -139,7 +142,7 @@ void CollisionScene::DrawVectorPair(Canvas& canvas, int16_t page, float vx1, flo
 {
     // The side view shows only the motion along x.
     const float value[2][2] = {{vx1, vx2}, {page == AboveView ? vy1 : 0.0f, page == AboveView ? vy2 : 0.0f}};
-    for (int16_t component = 1; component <= 2; ++component)
+    for (int16_t component = ComponentX; component <= ComponentY; ++component)
         for (int16_t body = 1; body <= 2; ++body)
             DrawArrow(canvas, component, BodyScreenX[body], BodyScreenY[body], BodyScreenRadius[body], scale,
                       value[component - 1][body - 1], colour);
@@ -157,7 +160,7 @@ void CollisionScene::DrawArrow(Canvas& canvas, int16_t component, float cx, floa
     const float length = static_cast<float>(double(ArrowLength) * value / scale);
     const float direction = Numeric::sign(value);
     const int32_t pen = colourOf(colour);
-    if (component == 1) {
+    if (component == ComponentX) {
         const float tipX = cx + length;
         canvas.Line(cx, cy, tipX, cy, pen);
         canvas.LineStep(tipX, cy, -BarbLength * direction, -BarbLength, pen);

@@ -3,6 +3,8 @@
 #include "canvas/Canvas.h"
 #include "model/CollisionSetup.h"
 
+#include <QCoreApplication>
+
 ExperimentView::ExperimentView(Canvas& canvas, CollisionSetup& setup)
     : m_canvas(canvas), m_setup(setup), m_state(setup)
 {
@@ -12,12 +14,10 @@ void ExperimentView::InitialiseCollision()
 {
     CollisionSetup& parameters = m_setup;
     parameters.useDefaultColours();
-    parameters.Mass[1] = 10;
-    parameters.Mass[2] = 15;
-    parameters.Ux[1] = 100;
-    parameters.Ux[2] = 50;
-    parameters.X[1] = 0;
-    parameters.X[2] = 100;
+    const CollisionSetup defaults;
+    parameters.Mass = defaults.Mass;
+    parameters.Ux = defaults.Ux;
+    parameters.X = defaults.X;
     m_scene.InitialiseGround(m_canvas);
 }
 
@@ -37,7 +37,16 @@ int16_t ExperimentView::CheckCollision()
 
 QString ExperimentView::CheckBoxText(int16_t code)
 {
-    return QString::fromStdString(CollisionState::CheckBoxText(code));
+    const std::string message = CollisionState::CheckMessage(code);
+    if (message.empty())
+        return QString();
+    return QCoreApplication::translate("CollisionState", CollisionState::CheckBoxFrame)
+        .arg(QCoreApplication::translate("CollisionState", message.c_str()));
+}
+
+QString ExperimentView::CheckTitle()
+{
+    return QCoreApplication::translate("CollisionState", CollisionState::CheckTitle);
 }
 
 float ExperimentView::RunEnd() const
@@ -74,7 +83,7 @@ bool ExperimentView::Tick()
             m_state.SimulationTime);
         m_scene.BodyScreenX[body] = m_scene.ScreenX(x);
         // The side view keeps the bodies resting on the ground.
-        if (m_page == 1) {
+        if (m_page == CollisionSetup::AboveView) {
             const float y = m_state.BodyState(CollisionState::ComponentY, CollisionState::Position, body,
                 m_state.SimulationTime);
             m_scene.BodyScreenY[body] = m_scene.ScreenY(y);
@@ -92,7 +101,7 @@ bool ExperimentView::Tick()
 void ExperimentView::Paint(bool runCompleted)
 {
     m_scene.DrawCollisionScene(m_canvas, m_setup, m_state, m_page);
-    if (m_page == 2 && runCompleted)
+    if (m_page == CollisionSetup::SideView && runCompleted)
         m_graphs.RedrawGraphs(m_canvas, m_setup, m_state);
 }
 
@@ -106,7 +115,7 @@ void ExperimentView::MouseUp(int16_t button, float y, bool runCompleted)
     // finished run on the side view. A page set-up since then has drawn the scene,
     // which a contact graph would replace with no way back; the view from above
     // never shows a graph.
-    if (button != RightButton || m_graphs.GraphZoomed != 1 || m_page != 2 || !runCompleted)
+    if (button != RightButton || m_graphs.GraphZoomed != 1 || m_page != CollisionSetup::SideView || !runCompleted)
         return;
     if (m_graphs.ContactZoom) {
         // Back from the contact to the whole run of the same graph.
@@ -128,7 +137,7 @@ void ExperimentView::leftClick(float y, bool runCompleted)
         Paint(runCompleted);
         return;
     }
-    if (m_page != 2 || !runCompleted || m_graphs.GraphCount <= 1)
+    if (m_page != CollisionSetup::SideView || !runCompleted || m_graphs.GraphCount <= 1)
         return;
     if (m_graphs.ContactZoom) {
         m_graphs.ContactZoom = false;

@@ -43,6 +43,8 @@ public:
     // The text of the check's message box for a failed check; empty for the codes
     // that have no message (the run stays blocked without a word).
     static QString CheckBoxText(int16_t code);
+    // The title of that message box.
+    static QString CheckTitle();
 
     // Ends any enlarged graph: the start of every run, on any page, does this.
     void ClearZoom();

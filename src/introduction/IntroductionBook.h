@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <array>
@@ -9,10 +10,15 @@
 // frame captions of the two collision pages. Units and pages count from 1.
 class IntroductionBook
 {
+    Q_DECLARE_TR_FUNCTIONS(IntroductionBook)
+
 public:
     // The number of units, and the most pages any unit has.
     static constexpr int16_t UnitCount = 5;
     static constexpr int16_t MaxPages = 8;
+    // The units that carry the experiments: the liquid pages and the collision pages.
+    static constexpr int16_t LiquidUnit = 2;
+    static constexpr int16_t CollisionUnit = 3;
 
     // Fills the page counts and the titles ("Unit:2 , Page:6").
     IntroductionBook();

@@ -6,6 +6,7 @@
 #include "canvas/Rgb.h"
 #include "core/Numeric.h"
 #include "core/ProgramFiles.h"
+#include "core/Twips.h"
 #include "model/FluidParameters.h"
 #include "widgets/StatusLine.h"
 
@@ -26,19 +27,19 @@ LiquidPage::LiquidPage(ImageCanvas& canvas, const FluidParameters& fluid) : m_ca
 void LiquidPage::PrepareLiquidPage(int16_t page)
 {
     m_page = page;
-    m_LiquidLevel = page == 6 ? 2600 : 2100;
+    m_LiquidLevel = page == FluidParameters::FirstLiquidPage ? 2600 : 2100;
 
     const FluidParameters& fluid = m_fluid;
     LiquidMolecules::Layout layout;
     layout.rows = fluid.FluidRows;
     layout.columns = fluid.FluidColumns;
     layout.liquidLevel = m_LiquidLevel;
-    layout.radius = page == 6 ? 150 : 50;
+    layout.radius = page == FluidParameters::FirstLiquidPage ? 150 : 50;
     layout.groupColor[0] = Numeric::toInt32(fluid.FluidGroupColor[1]);
     layout.groupColor[1] = Numeric::toInt32(fluid.FluidGroupColor[2]);
     m_molecules.Lay(m_canvas, layout);
 
-    loadPicture(QString::fromLatin1(page == 6 ? Page6Picture : Page8Picture));
+    loadPicture(QString::fromLatin1(page == FluidParameters::FirstLiquidPage ? Page6Picture : Page8Picture));
     m_PartitionVisible = true;
     DrawLiquidPage();
 }
@@ -55,14 +56,13 @@ void LiquidPage::loadPicture(const QString& name)
     if (file.status() != PictureFile::Status::Read) {
         // A damaged picture is left out whole rather than shown in part.
         m_canvas.setPicture(QImage());
-        SetStatusLine(
-            QStringLiteral("The picture %1 %2: the vessel is shown without it").arg(name, file.problem()));
+        SetStatusLine(tr("The picture %1 %2: the vessel is shown without it").arg(name, file.problem()));
         return;
     }
     QImage picture = file.image();
     // The picture is drawn in device pixels: on a high-density screen it is
     // enlarged to keep its place under the picture's twips.
-    const double ratio = m_canvas.DeviceWidth() * 15.0 / m_canvas.ScaleWidth();
+    const double ratio = m_canvas.DeviceWidth() * double(Twips::PerPixel) / m_canvas.ScaleWidth();
     if (ratio > 1.01)
         picture = picture.scaled(picture.size() * ratio);
     m_canvas.setPicture(picture);
@@ -74,7 +74,7 @@ void LiquidPage::DrawLiquidPage()
     if (m_PartitionVisible)
         m_canvas.Line(LiquidMolecules::VesselMiddle, m_LiquidLevel, LiquidMolecules::VesselMiddle,
             LiquidMolecules::VesselBottom, White);
-    if (m_page == 6 && m_fluid.LiquidSurface3D)
+    if (m_page == FluidParameters::FirstLiquidPage && m_fluid.LiquidSurface3D)
         m_canvas.Line(LiquidMolecules::VesselLeft, m_LiquidLevel, LiquidMolecules::VesselRight, m_LiquidLevel, White);
     m_molecules.Draw();
 }

@@ -2,6 +2,7 @@
 
 #include "model/LiquidMolecules.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <cstdint>
@@ -14,6 +15,8 @@ struct FluidParameters;
 // the liquid's surface on page 6, and the molecules that a liquid run moves.
 class LiquidPage
 {
+    Q_DECLARE_TR_FUNCTIONS(LiquidPage)
+
 public:
     // The page's background pictures, looked up in the program's folder.
     static constexpr const char* Page6Picture = "pot_t2.bmp";

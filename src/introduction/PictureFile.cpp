@@ -42,9 +42,9 @@ QString PictureFile::problem() const
 {
     switch (m_status) {
     case Status::Missing:
-        return QStringLiteral("is missing");
+        return tr("is missing");
     case Status::Unreadable:
-        return QStringLiteral("cannot be read");
+        return tr("cannot be read");
     default:
         return QString();
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QImage>
 #include <QString>
 
@@ -8,6 +9,8 @@
 // or a BMP cut short, whose rows would be made up as black).
 class PictureFile
 {
+    Q_DECLARE_TR_FUNCTIONS(PictureFile)
+
 public:
     enum class Status { Read, Missing, Unreadable };
 

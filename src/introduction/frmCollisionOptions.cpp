@@ -1,20 +1,15 @@
 #include "frmCollisionOptions.h"
 
-#include "widgets/TypingLimit.h"
-#include "widgets/OptionsWidgets.h"
-
 #include "core/EntryFilter.h"
 #include "core/Numeric.h"
 #include "model/CollisionSetup.h"
 #include "widgets/FormLayout.h"
-#include "widgets/WindowRelease.h"
-#include "widgets/StatusLine.h"
 #include "widgets/HandlerGuard.h"
+#include "widgets/OptionsWidgets.h"
 #include "widgets/StatusHints.h"
-#include "widgets/suppl.h"
+#include "widgets/TypingLimit.h"
 
 #include <QCheckBox>
-#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -39,20 +34,27 @@ struct FieldKind
 };
 
 const std::array<FieldKind, KindCount> Kinds = {{
-    {"txtm", "lblm", "m=", "kgr", 9, 999, true},
-    {"txtR", "lblR", "R=", "m", 9, 100, true},
-    {"txtx", "lblx", "x=", "m", 10, 999, false},
-    {"txty", "lbly", "y=", "m", 10, 999, false},
-    {"txtux", "lblux", "υx=", "m/sec", 10, 100, false},
-    {"txtuy", "lbluy", "υy=", "m/sec", 10, 100, false},
+    {"txtm", "lblm", QT_TRANSLATE_NOOP("frmCollisionOptions", "m="), QT_TRANSLATE_NOOP("frmCollisionOptions", "kgr"),
+        9, 999, true},
+    {"txtR", "lblR", QT_TRANSLATE_NOOP("frmCollisionOptions", "R="), QT_TRANSLATE_NOOP("frmCollisionOptions", "m"), 9,
+        100, true},
+    {"txtx", "lblx", QT_TRANSLATE_NOOP("frmCollisionOptions", "x="), QT_TRANSLATE_NOOP("frmCollisionOptions", "m"),
+        10, 999, false},
+    {"txty", "lbly", QT_TRANSLATE_NOOP("frmCollisionOptions", "y="), QT_TRANSLATE_NOOP("frmCollisionOptions", "m"),
+        10, 999, false},
+    {"txtux", "lblux", QT_TRANSLATE_NOOP("frmCollisionOptions", "υx="),
+        QT_TRANSLATE_NOOP("frmCollisionOptions", "m/sec"), 10, 100, false},
+    {"txtuy", "lbluy", QT_TRANSLATE_NOOP("frmCollisionOptions", "υy="),
+        QT_TRANSLATE_NOOP("frmCollisionOptions", "m/sec"), 10, 100, false},
 }};
+
+// The characters a learner may type into any box.
+constexpr int FieldTypingLimit = 3;
 
 constexpr int ColumnLeft[2] = {600, 2400};
 constexpr int RowTop[KindCount] = {540, 900, 1260, 1620, 1980, 2340};
 
 constexpr int32_t DisabledTextColor = 0x6E6E6E; // RGB(110, 110, 110)
-
-const QString MinimisedHint = QStringLiteral("Μελέτης της υδροστατικής άνωσης με μέθοδο Monte Carlo");
 
 QString decimalText(float value)
 {
@@ -65,15 +67,18 @@ frmCollisionOptions::frmCollisionOptions(CollisionSetup& setup, int32_t pictureB
     : m_setup(setup), m_pictureBackground(pictureBackground)
 {
     setObjectName("frmCollisionOptions");
-    setWindowTitle(QStringLiteral("Παράμετροι Ελαστικής Κρούσης"));
+    setWindowTitle(tr("Παράμετροι Ελαστικής Κρούσης"));
     setModal(true);
+    setMinimisedHint(tr("Μελέτης της υδροστατικής άνωσης με μέθοδο Monte Carlo"));
     FormLayout::fixSize(this, 7215, 5010);
+    useColorChooser(CMDcolors);
     createBodyFrame();
     createGraphFrame();
     createVectorFrame();
     createModelFrame();
     createColorFrame();
     createCommandButtons();
+    placeCommandButtons();
     ShowCurrentValues();
     ArrangeForPage();
 }
@@ -102,8 +107,8 @@ QCheckBox* frmCollisionOptions::createCheck(QWidget* parent, const char* name, c
 
 void frmCollisionOptions::createBodyFrame()
 {
-    fraCollisionData = createFrame("fraCollisionData", QStringLiteral("Parameters of Bodies"), 0, 120, 3855, 2895);
-    const QStringList titles = {QStringLiteral("First body:"), QStringLiteral("Second Body:")};
+    fraCollisionData = createFrame("fraCollisionData", tr("Parameters of Bodies"), 0, 120, 3855, 2895);
+    const QStringList titles = {tr("First body:"), tr("Second Body:")};
     for (int i = 0; i < 2; ++i) {
         lblTitle[i] = new QLabel(titles[i], fraCollisionData);
         lblTitle[i]->setObjectName(indexedName("lblTitle", i));
@@ -118,7 +123,7 @@ void frmCollisionOptions::createBodyRow(int kind)
     const FieldKind& kindInfo = Kinds[kind];
     std::array<QLabel*, 2>* labels[KindCount] = {&lblm, &lblR, &lblx, &lbly, &lblux, &lbluy};
     for (int i = 0; i < 2; ++i) {
-        QLabel* label = new QLabel(QString::fromUtf8(kindInfo.caption), fraCollisionData);
+        QLabel* label = new QLabel(tr(kindInfo.caption), fraCollisionData);
         label->setObjectName(indexedName(kindInfo.label, i));
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         FormLayout::place(label, ColumnLeft[i] - 480, RowTop[kind], 450, 285);
@@ -128,14 +133,14 @@ void frmCollisionOptions::createBodyRow(int kind)
         QLineEdit* box = new QLineEdit(fraCollisionData);
         box->setObjectName(indexedName(kindInfo.box, i));
         // Three characters may be typed; a stored value is shown whole.
-        m_typingLimit[kind][i] = new TypingLimit(box, 3);
+        m_typingLimit[kind][i] = new TypingLimit(box, FieldTypingLimit);
         FormLayout::place(box, ColumnLeft[i], RowTop[kind], 495, 285);
         StatusHints::install(box, fieldHint(kind, i + 1, kindInfo.max));
         connect(box, &QLineEdit::textEdited, this, [this, kind, i] { RunGuarded([=, this] { Field_Change(kind, i); }); });
         field(kind, i) = box;
 
         const int unitIndex = i * KindCount + kind;
-        QLabel* unit = new QLabel(QString::fromLatin1(kindInfo.unit), fraCollisionData);
+        QLabel* unit = new QLabel(tr(kindInfo.unit), fraCollisionData);
         unit->setObjectName(indexedName("lblUnits", unitIndex));
         FormLayout::place(unit, ColumnLeft[i] + 540, RowTop[kind], 780, 285);
         StatusHints::install(unit, unitHint(unitIndex));
@@ -145,15 +150,15 @@ void frmCollisionOptions::createBodyRow(int kind)
 
 void frmCollisionOptions::createGraphFrame()
 {
-    fraGraphs = createFrame("fraGraphs", QStringLiteral("Graphs selection"), 0, 3120, 3855, 1335);
-    chkGraphS = createCheck(fraGraphs, "chkGraphS", QStringLiteral("Distance"), 240, 360, 1095);
-    chkGraphU = createCheck(fraGraphs, "chkGraphU", QStringLiteral("Velocity"), 1440, 360, 1095);
-    chkGraphF = createCheck(fraGraphs, "chkGraphF", QStringLiteral("Force"), 2640, 360, 1095);
-    chkProportional = createCheck(fraGraphs, "chkProportional", QStringLiteral("Proportional Graphs"), 240, 840, 2535);
+    fraGraphs = createFrame("fraGraphs", tr("Graphs selection"), 0, 3120, 3855, 1335);
+    chkGraphS = createCheck(fraGraphs, "chkGraphS", tr("Distance"), 240, 360, 1095);
+    chkGraphU = createCheck(fraGraphs, "chkGraphU", tr("Velocity"), 1440, 360, 1095);
+    chkGraphF = createCheck(fraGraphs, "chkGraphF", tr("Force"), 2640, 360, 1095);
+    chkProportional = createCheck(fraGraphs, "chkProportional", tr("Proportional Graphs"), 240, 840, 2535);
 
     // The collision types of the view from above lie over the graph switches.
-    const QStringList typeCaptions[2] = {{QStringLiteral("Central"), QStringLiteral("Πλάγια")},
-        {QStringLiteral("Elastic"), QStringLiteral("Plastic")}};
+    const QStringList typeCaptions[2] = {{tr("Central"), tr("Πλάγια")},
+        {tr("Elastic"), tr("Plastic")}};
     std::array<QRadioButton*, 2>* types[2] = {&OptType1, &OptType2};
     QWidget** panels[2] = {&picCollType1, &picCollType2};
     for (int p = 0; p < 2; ++p) {
@@ -174,17 +179,17 @@ void frmCollisionOptions::createGraphFrame()
 void frmCollisionOptions::createVectorFrame()
 {
     fraVisualisationOption =
-        createFrame("fraVisualisationOption", QStringLiteral("View vectors"), 4080, 120, 3015, 1095);
-    chkShowVelocities = createCheck(fraVisualisationOption, "chkShowVelocities", QStringLiteral("Velocity"), 240, 300, 1215);
-    chkShowForces = createCheck(fraVisualisationOption, "chkShowForces", QStringLiteral("Force"), 1560, 300, 1215);
-    chkShowMomenta = createCheck(fraVisualisationOption, "chkShowMomenta", QStringLiteral("Momentum"), 240, 690, 1815);
+        createFrame("fraVisualisationOption", tr("View vectors"), 4080, 120, 3015, 1095);
+    chkShowVelocities = createCheck(fraVisualisationOption, "chkShowVelocities", tr("Velocity"), 240, 300, 1215);
+    chkShowForces = createCheck(fraVisualisationOption, "chkShowForces", tr("Force"), 1560, 300, 1215);
+    chkShowMomenta = createCheck(fraVisualisationOption, "chkShowMomenta", tr("Momentum"), 240, 690, 1815);
 }
 
 void frmCollisionOptions::createModelFrame()
 {
-    fraModel = createFrame("fraModel", QStringLiteral("Mathematical Model"), 4080, 1320, 3015, 1455);
-    const QStringList captions = {QStringLiteral("Linear Model"), QStringLiteral("u=f(t), continuous"),
-        QStringLiteral("u=f(t), F=f(t), continuous")};
+    fraModel = createFrame("fraModel", tr("Mathematical Model"), 4080, 1320, 3015, 1455);
+    const QStringList captions = {tr("Linear Model"), tr("u=f(t), continuous"),
+        tr("u=f(t), F=f(t), continuous")};
     for (int i = 0; i < 3; ++i) {
         optModel[i] = new QRadioButton(captions[i], fraModel);
         optModel[i]->setObjectName(indexedName("optModel", i));
@@ -195,9 +200,9 @@ void frmCollisionOptions::createModelFrame()
 
 void frmCollisionOptions::createColorFrame()
 {
-    fraColors = createFrame("fraColors", QStringLiteral("Color Selection"), 4080, 2880, 3015, 1575);
-    const QStringList captions = {QStringLiteral("Body 1:"), QStringLiteral("Body 2:"), QStringLiteral("velocities:"),
-        QStringLiteral("Forces:")};
+    fraColors = createFrame("fraColors", tr("Color Selection"), 4080, 2880, 3015, 1575);
+    const QStringList captions = {tr("Body 1:"), tr("Body 2:"), tr("velocities:"),
+        tr("Forces:")};
     for (int i = 0; i < 4; ++i) {
         const int top = 300 + i * 300;
         lblColorSelection[i] = new QLabel(captions[i], fraColors);
@@ -216,26 +221,16 @@ void frmCollisionOptions::createColorFrame()
         StatusHints::install(lblColorSelection[i], choose);
         StatusHints::install(cmdColorSelection[i], choose);
         StatusHints::install(lblCurrentColor[i], controlHint(QStringLiteral("lblCurrentColor"), i));
-        auto handler = [this, i] { RunGuarded([this, i] { cmdColorSelection_Click(i); }); };
-        connect(cmdColorSelection[i], &QPushButton::clicked, this, handler);
-        onClick(lblColorSelection[i], handler);
-        onClick(lblCurrentColor[i], handler);
+        addColorChoice(cmdColorSelection[i], lblColorSelection[i], lblCurrentColor[i]);
     }
 }
 
-void frmCollisionOptions::createCommandButtons()
+void frmCollisionOptions::placeCommandButtons()
 {
-    const QStringList captions = {QStringLiteral("Ok"), QStringLiteral("Cancel"), QStringLiteral("Default values")};
-    const int left[3] = {5400, 3480, 120};
-    const int width[3] = {1695, 1695, 3135};
-    for (int i = 0; i < 3; ++i) {
-        cmdCommand[i] = new QPushButton(captions[i], this);
-        cmdCommand[i]->setObjectName(indexedName("cmdCommand", i));
-        cmdCommand[i]->setAutoDefault(false);
+    const int left[CommandCount] = {5400, 3480, 120};
+    const int width[CommandCount] = {1695, 1695, 3135};
+    for (int i = 0; i < CommandCount; ++i)
         FormLayout::place(cmdCommand[i], left[i], 4560, width[i], 375);
-        connect(cmdCommand[i], &QPushButton::clicked, this, [this, i] { RunGuarded([this, i] { cmdCommand_Click(i); }); });
-        onMouseMove(cmdCommand[i], [i] { ShowOptionsButtonHint(int16_t(i)); });
-    }
 }
 
 QLineEdit*& frmCollisionOptions::field(int kind, int Index)
@@ -262,9 +257,8 @@ void frmCollisionOptions::writeField(int kind, int Index, const QString& text)
     Field_Change(kind, Index);
 }
 
-void frmCollisionOptions::ShowCurrentValues()
+void frmCollisionOptions::showBodies(const CollisionSetup& setup)
 {
-    const CollisionSetup& setup = m_setup;
     for (int i = 0; i < 2; ++i) {
         const int body = i + 1;
         writeField(Mass, i, QString::number(setup.Mass[body]));
@@ -274,14 +268,25 @@ void frmCollisionOptions::ShowCurrentValues()
         writeField(VelocityX, i, decimalText(setup.Ux[body]));
         writeField(VelocityY, i, decimalText(setup.Uy[body]));
     }
+}
+
+void frmCollisionOptions::showSwitches(const CollisionSetup& setup)
+{
+    chkShowVelocities->setChecked(setup.ShowVelocities == 1);
+    chkShowForces->setChecked(setup.ShowForces == 1);
     chkGraphS->setChecked(setup.GraphDistance == 1);
     chkGraphU->setChecked(setup.GraphVelocity == 1);
     chkGraphF->setChecked(setup.GraphForce == 1);
     chkProportional->setChecked(setup.ProportionalGraphs == 1);
-    chkShowVelocities->setChecked(setup.ShowVelocities == 1);
-    chkShowForces->setChecked(setup.ShowForces == 1);
     if (setup.ForceModel >= 0 && setup.ForceModel < int16_t(optModel.size()))
         optModel[setup.ForceModel]->setChecked(true);
+}
+
+void frmCollisionOptions::ShowCurrentValues()
+{
+    const CollisionSetup& setup = m_setup;
+    showBodies(setup);
+    showSwitches(setup);
     showColors({setup.BodyColor[1], setup.BodyColor[2], setup.VelocityColor, setup.ForceColor});
     InvalidFields.clear();
     OptType1[0]->setChecked(true);
@@ -291,11 +296,11 @@ void frmCollisionOptions::ShowCurrentValues()
 void frmCollisionOptions::ArrangeForPage()
 {
     const int16_t page = m_setup.Page;
-    if (page == 1) {
+    if (page == CollisionSetup::AboveView) {
         for (QCheckBox* box : {chkGraphS, chkGraphU, chkGraphF, chkProportional})
             box->hide();
-        fraGraphs->setTitle(QStringLiteral("Κατηγοριοποίηση Κρούσεων"));
-    } else if (page == 2) {
+        fraGraphs->setTitle(tr("Κατηγοριοποίηση Κρούσεων"));
+    } else if (page == CollisionSetup::SideView) {
         // The side view is one-dimensional: its y values are shown but not edited.
         for (FieldArray* boxes : {&txty, &txtuy})
             for (QLineEdit* box : *boxes) {
@@ -328,11 +333,8 @@ void frmCollisionOptions::Field_Change(int kind, int Index)
 
 void frmCollisionOptions::MarkFieldValidity(int kind, int Index, bool Valid)
 {
-    if (Valid)
-        InvalidFields.erase({kind, Index});
-    else
-        InvalidFields.insert({kind, Index});
-    cmdCommand[0]->setEnabled(InvalidFields.empty());
+    // One field number for each box: the kind's two bodies side by side.
+    ParameterDialog::MarkFieldValidity(kind * 2 + Index, Valid);
 }
 
 void frmCollisionOptions::AcceptValues()
@@ -367,68 +369,12 @@ void frmCollisionOptions::AcceptValues()
 
 void frmCollisionOptions::ShowDefaultValues()
 {
-    const std::array<std::array<const char*, 2>, KindCount> defaults = {{
-        {"10", "15"}, {"10", "10"}, {"0", "100"}, {"0", "0"}, {"100", "50"}, {"0", "0"},
-    }};
-    for (int kind = 0; kind < KindCount; ++kind)
-        for (int i = 0; i < 2; ++i)
-            writeField(kind, i, QString::fromLatin1(defaults[kind][i]));
-    for (QCheckBox* box : {chkShowVelocities, chkShowForces, chkGraphS, chkGraphU, chkGraphF})
-        box->setChecked(true);
-    chkProportional->setChecked(false);
-    optModel[0]->setChecked(true);
+    // The numbers and switches of a fresh record; the colours the set-up offers as
+    // its defaults, made against the picture's background.
+    const CollisionSetup defaults;
+    showBodies(defaults);
+    showSwitches(defaults);
     const CollisionSetup& setup = m_setup;
     showColors({setup.DefaultBodyColor[1], setup.DefaultBodyColor[2], setup.DefaultVelocityColor,
         setup.DefaultForceColor});
-}
-
-void frmCollisionOptions::cmdCommand_Click(int Index)
-{
-    switch (Index) {
-    case 0:
-        AcceptValues();
-        accept();
-        CloseAndRelease(this);
-        break;
-    case 1:
-        reject();
-        break;
-    case 2:
-        ShowDefaultValues();
-        break;
-    default:
-        break;
-    }
-}
-
-void frmCollisionOptions::reject()
-{
-    QDialog::reject();
-    CloseAndRelease(this);
-}
-
-void frmCollisionOptions::cmdColorSelection_Click(int Index)
-{
-    setSwatchColor(lblCurrentColor[Index], CMDcolors.ShowColor(this));
-}
-
-void frmCollisionOptions::Form_Resize()
-{
-    if (isMinimized())
-        SetStatusLine(MinimisedHint);
-    else
-        CentreForm(this);
-}
-
-void frmCollisionOptions::resizeEvent(QResizeEvent* event)
-{
-    QDialog::resizeEvent(event);
-    RunGuarded([this] { Form_Resize(); });
-}
-
-void frmCollisionOptions::changeEvent(QEvent* event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange)
-        RunGuarded([this] { Form_Resize(); });
 }

@@ -2,13 +2,10 @@
 
 #include "BodyParameterHints.h"
 #include "widgets/ColorChooser.h"
-
-#include <QDialog>
+#include "widgets/ParameterDialog.h"
 
 #include <array>
 #include <cstdint>
-#include <set>
-#include <utility>
 
 class CollisionSetup;
 class QCheckBox;
@@ -25,7 +22,7 @@ class TypingLimit;
 // the vectors and graphs drawn, the model of the contact force and the colours. It
 // edits a working copy in its controls; the experiment's parameters change only on
 // "Ok", which is enabled only while all twelve typed numbers are valid.
-class frmCollisionOptions : public QDialog
+class frmCollisionOptions : public ParameterDialog
 {
     Q_OBJECT
 
@@ -36,9 +33,6 @@ public:
     // outlives the dialog and changes only on "Ok".
     frmCollisionOptions(CollisionSetup& setup, int32_t pictureBackground);
 
-    // The handlers of the controls.
-    void cmdCommand_Click(int Index);
-    void cmdColorSelection_Click(int Index);
     // The check of a typed number of one kind (BodyParameterHints::Kind) and body
     // index 0 or 1: txtm_Change, txtR_Change and their sister handlers.
     void Field_Change(int kind, int Index);
@@ -48,14 +42,6 @@ public:
     void txty_Change(int Index) { Field_Change(BodyParameterHints::PositionY, Index); }
     void txtux_Change(int Index) { Field_Change(BodyParameterHints::VelocityX, Index); }
     void txtuy_Change(int Index) { Field_Change(BodyParameterHints::VelocityY, Index); }
-
-public slots:
-    // Escape and the close box cancel, as "Cancel" does.
-    void reject() override;
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     CollisionSetup& m_setup;
@@ -69,17 +55,19 @@ private:
     void createVectorFrame();
     void createModelFrame();
     void createColorFrame();
-    void createCommandButtons();
+    void placeCommandButtons();
     QGroupBox* createFrame(const char* name, const QString& caption, int left, int top, int width, int height);
     QCheckBox* createCheck(QWidget* parent, const char* name, const QString& caption, int left, int top, int width);
 
-    void ShowCurrentValues();
-    void AcceptValues();
-    void ShowDefaultValues();
+    void ShowCurrentValues() override;
+    void AcceptValues() override;
+    void ShowDefaultValues() override;
+    void showBodies(const CollisionSetup& setup);
+    void showSwitches(const CollisionSetup& setup);
     void ArrangeForPage();
+    using ParameterDialog::MarkFieldValidity;
     void MarkFieldValidity(int kind, int Index, bool Valid);
     void writeField(int kind, int Index, const QString& text);
-    void Form_Resize();
 
     // The experiment keeps its colours as drawing colours, combined by exclusive-or
     // with the picture's background; the swatches show the colours as seen. The four
@@ -119,12 +107,8 @@ private:
     std::array<QPushButton*, 4> cmdColorSelection{};
     std::array<QLabel*, 4> lblCurrentColor{};
 
-    std::array<QPushButton*, 3> cmdCommand{};
     ColorChooser CMDcolors;
 
     // The typing limit of each box, by kind and body index.
     std::array<std::array<TypingLimit*, 2>, BodyParameterHints::KindCount> m_typingLimit{};
-
-    // The typed numbers whose last check failed, as (kind, body index).
-    std::set<std::pair<int, int>> InvalidFields;
 };

@@ -41,14 +41,12 @@ constexpr int PictureHeight = 4935;
 // The typed unit and page: digits only, no minus sign, no decimal point.
 constexpr int16_t UnitPageFlags = 5;
 
-const QString ClosingHint = QStringLiteral("The Floatrixon - A modern Greek game");
-
 } // namespace
 
 frmIntroduction::frmIntroduction(CollisionSetup& setup, FluidParameters& fluid) : m_setup(setup), m_fluid(fluid)
 {
     setObjectName("frmIntroduction");
-    setWindowTitle(QStringLiteral("Introduction"));
+    setWindowTitle(tr("Introduction"));
     FormLayout::fixSize(this, ClientWidth, ClientHeight);
     createControls();
     installHints();
@@ -104,19 +102,19 @@ void frmIntroduction::createControls()
 
 void frmIntroduction::createNavigation()
 {
-    createButton(1, QStringLiteral("<<"), 5160, 2760, 495, 255);
-    createButton(2, QStringLiteral("<"), 5880, 2760, 495, 255);
-    createButton(3, QStringLiteral(">"), 6720, 2760, 495, 255);
-    createButton(4, QStringLiteral(">>"), 7440, 2760, 495, 255);
+    createButton(PreviousUnitButton, tr("<<"), 5160, 2760, 495, 255);
+    createButton(PreviousPageButton, tr("<"), 5880, 2760, 495, 255);
+    createButton(NextPageButton, tr(">"), 6720, 2760, 495, 255);
+    createButton(NextUnitButton, tr(">>"), 7440, 2760, 495, 255);
 
-    lblUnit = new QLabel(QStringLiteral("Unit:"), this);
+    lblUnit = new QLabel(tr("Unit:"), this);
     lblUnit->setObjectName("lblUnit");
     FormLayout::place(lblUnit, 5040, 3120, 855, 285);
     txtUnit = new QLineEdit(this);
     txtUnit->setObjectName("txtUnit");
     txtUnit->setMaxLength(2);
     FormLayout::place(txtUnit, 6000, 3120, 375, 285);
-    lblPage = new QLabel(QStringLiteral("Page:"), this);
+    lblPage = new QLabel(tr("Page:"), this);
     lblPage->setObjectName("lblPage");
     FormLayout::place(lblPage, 6720, 3120, 735, 285);
     txtPage = new QLineEdit(this);
@@ -126,18 +124,18 @@ void frmIntroduction::createNavigation()
     connect(txtUnit, &QLineEdit::textEdited, this, [this] { RunGuarded([this] { txtUnit_Change(); }); });
     connect(txtPage, &QLineEdit::textEdited, this, [this] { RunGuarded([this] { txtPage_Change(); }); });
 
-    createButton(6, QStringLiteral("Go To"), 5040, 3480, 1455, 375);
+    createButton(GoToButton, tr("Go To"), 5040, 3480, 1455, 375);
 }
 
 void frmIntroduction::createRunControls()
 {
-    createButton(5, QStringLiteral("Simulation"), 6600, 3480, 1455, 375);
-    createButton(8, QStringLiteral("Pause"), 5040, 3960, 1455, 375)->setEnabled(false);
-    createButton(9, QStringLiteral("Step"), 6600, 3960, 1455, 375)->setEnabled(false);
-    createButton(7, QStringLiteral("Options"), 6600, 4440, 1455, 375);
-    createButton(0, QStringLiteral("Exit"), 6600, 4920, 1455, 375);
+    createButton(SimulationButton, tr("Simulation"), 6600, 3480, 1455, 375);
+    createButton(PauseButton, tr("Pause"), 5040, 3960, 1455, 375)->setEnabled(false);
+    createButton(StepButton, tr("Step"), 6600, 3960, 1455, 375)->setEnabled(false);
+    createButton(OptionsButton, tr("Options"), 6600, 4440, 1455, 375);
+    createButton(ExitButton, tr("Exit"), 6600, 4920, 1455, 375);
 
-    Label1 = new QLabel(QStringLiteral("Delay"), this);
+    Label1 = new QLabel(tr("Delay"), this);
     Label1->setObjectName("Label1");
     Label1->setAlignment(Qt::AlignCenter);
     FormLayout::place(Label1, 5160, 4800, 1215, 255);
@@ -155,25 +153,30 @@ void frmIntroduction::createRunControls()
 
 void frmIntroduction::installHints()
 {
-    StatusHints::install(this, QStringLiteral("Introduction"));
-    StatusHints::install(txtIntro, QStringLiteral("Explanation"));
-    StatusHints::install(txtIntro->viewport(), QStringLiteral("Explanation"));
-    StatusHints::install(txtUnit, QStringLiteral("select unit"));
-    StatusHints::install(txtPage, QStringLiteral("Select page"));
-    StatusHints::install(lblUnit, QStringLiteral("Select Unit"));
-    onClick(lblPage, [] { SetStatusLine(QStringLiteral("Select Page")); });
-    StatusHints::install(picIntroduction, QStringLiteral("Visualisation"));
-    const std::array<std::pair<int, const char*>, 7> hints = {{
-        {0, "Exit introduction"},
-        {1, "Go to previous unit"},
-        {2, "Go to previous page"},
-        {3, "Go to next page"},
-        {4, "Go to next unit"},
-        {6, "Go to Unit and/or Page"},
-        {7, "Define collision parameters"},
+    StatusHints::install(this, tr("Introduction"));
+    StatusHints::install(txtIntro, tr("Explanation"));
+    StatusHints::install(txtIntro->viewport(), tr("Explanation"));
+    StatusHints::install(txtUnit, tr("select unit"));
+    StatusHints::install(txtPage, tr("Select page"));
+    StatusHints::install(lblUnit, tr("Select Unit"));
+    onClick(lblPage, [] { SetStatusLine(tr("Select Page")); });
+    StatusHints::install(picIntroduction, tr("Visualisation"));
+    const std::array<std::pair<Command, QString>, 7> hints = {{
+        {ExitButton, tr("Exit introduction")},
+        {PreviousUnitButton, tr("Go to previous unit")},
+        {PreviousPageButton, tr("Go to previous page")},
+        {NextPageButton, tr("Go to next page")},
+        {NextUnitButton, tr("Go to next unit")},
+        {GoToButton, tr("Go to Unit and/or Page")},
+        {OptionsButton, tr("Define collision parameters")},
     }};
     for (const auto& [index, hint] : hints)
-        StatusHints::install(cmdCommand[index], QString::fromLatin1(hint));
+        StatusHints::install(cmdCommand[index], hint);
+}
+
+QString frmIntroduction::ClosingHint()
+{
+    return tr("The Floatrixon - A modern Greek game");
 }
 
 int32_t frmIntroduction::PictureBackColor() const
@@ -194,19 +197,19 @@ bool frmIntroduction::onLiquidPage() const
 void frmIntroduction::cmdCommand_Click(int Index)
 {
     switch (Index) {
-    case 0:
+    case ExitButton:
         CloseAndRelease(this);
         break;
-    case 1:
-    case 2:
-    case 3:
-    case 4:
+    case PreviousUnitButton:
+    case PreviousPageButton:
+    case NextPageButton:
+    case NextUnitButton:
         Navigate(Index);
         break;
-    case 6:
+    case GoToButton:
         GoTo();
         break;
-    case 7:
+    case OptionsButton:
         ShowOptions();
         break;
     default:
@@ -220,13 +223,13 @@ bool frmIntroduction::NextPosition(int Index, int16_t& unit, int16_t& page) cons
     unit = m_CurrentUnit;
     page = m_CurrentPage;
     switch (Index) {
-    case 1:
+    case PreviousUnitButton:
         if (unit <= 1)
             return false;
         --unit;
         page = 1;
         return true;
-    case 2:
+    case PreviousPageButton:
         if (page > 1) {
             --page;
             return true;
@@ -236,7 +239,7 @@ bool frmIntroduction::NextPosition(int Index, int16_t& unit, int16_t& page) cons
         --unit;
         page = m_book.PagesInUnit(unit);
         return true;
-    case 3:
+    case NextPageButton:
         if (page < m_book.PagesInUnit(unit)) {
             ++page;
             return true;
@@ -246,7 +249,7 @@ bool frmIntroduction::NextPosition(int Index, int16_t& unit, int16_t& page) cons
         ++unit;
         page = 1;
         return true;
-    case 4:
+    case NextUnitButton:
         if (unit >= IntroductionBook::UnitCount)
             return false;
         ++unit;
@@ -264,7 +267,7 @@ void frmIntroduction::Navigate(int Index)
     if (!NextPosition(Index, unit, page))
         return;
     // Only "<" within the same unit leaves the unit box alone.
-    MoveTo(unit, page, Index != 2 || unit != m_CurrentUnit);
+    MoveTo(unit, page, Index != PreviousPageButton || unit != m_CurrentUnit);
 }
 
 void frmIntroduction::MoveTo(int16_t unit, int16_t page, bool writeUnit)
@@ -302,7 +305,7 @@ bool frmIntroduction::takeTypedNumber(QLineEdit* box, int16_t max, int16_t& posi
     const bool valid = typedNumberValid(box, max);
     showValidity(box, valid);
     if (!valid) {
-        cmdCommand[6]->setEnabled(false);
+        cmdCommand[GoToButton]->setEnabled(false);
         return false;
     }
     position = Numeric::toInt16(LeadingNumber(box->text()));
@@ -314,14 +317,14 @@ void frmIntroduction::txtUnit_Change()
     // "Go To" comes back only once the other box holds a valid number too.
     if (takeTypedNumber(txtUnit, IntroductionBook::UnitCount, m_CurrentUnit)
         && typedNumberValid(txtPage, m_book.PagesInUnit(m_CurrentUnit)))
-        cmdCommand[6]->setEnabled(true);
+        cmdCommand[GoToButton]->setEnabled(true);
 }
 
 void frmIntroduction::txtPage_Change()
 {
     if (takeTypedNumber(txtPage, m_book.PagesInUnit(m_CurrentUnit), m_CurrentPage)
         && typedNumberValid(txtUnit, IntroductionBook::UnitCount))
-        cmdCommand[6]->setEnabled(true);
+        cmdCommand[GoToButton]->setEnabled(true);
 }
 
 void frmIntroduction::GoToFirstPage()
@@ -339,7 +342,7 @@ void frmIntroduction::GoTo()
     m_liquid->Leave();
     m_PageReady = true;
     // Only a page with an experiment offers a run: elsewhere a run could never end.
-    cmdCommand[5]->setEnabled(onCollisionPage() || onLiquidPage());
+    cmdCommand[SimulationButton]->setEnabled(onCollisionPage() || onLiquidPage());
     m_run->setRunCompleted(false);
     ShowPage();
 }
@@ -367,16 +370,16 @@ void frmIntroduction::ShowCollisionPage()
 void frmIntroduction::CheckCollision()
 {
     const int16_t code = m_experiment->CheckCollision();
-    cmdCommand[5]->setEnabled(false);
-    cmdCommand[7]->setFocus();
+    cmdCommand[SimulationButton]->setEnabled(false);
+    cmdCommand[OptionsButton]->setFocus();
     if (code == CollisionState::CodeReady) {
-        cmdCommand[5]->setEnabled(true);
-        cmdCommand[5]->setFocus();
+        cmdCommand[SimulationButton]->setEnabled(true);
+        cmdCommand[SimulationButton]->setFocus();
         return;
     }
     const QString text = ExperimentView::CheckBoxText(code);
     if (!text.isEmpty())
-        MsgBox(text, 16, QString::fromLatin1(CollisionState::CheckTitle));
+        MsgBox(text, 16, ExperimentView::CheckTitle());
 }
 
 void frmIntroduction::StartSimulation()
@@ -443,7 +446,7 @@ void frmIntroduction::Form_Resize()
 {
     auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
     if (frame && frame->isMinimized())
-        SetStatusLine(ClosingHint);
+        SetStatusLine(ClosingHint());
     else
         CentreForm(this);
 }
@@ -476,6 +479,6 @@ bool frmIntroduction::eventFilter(QObject* watched, QEvent* event)
 void frmIntroduction::closeEvent(QCloseEvent* event)
 {
     m_run->Timer1().stop();
-    SetStatusLine(ClosingHint);
+    SetStatusLine(ClosingHint());
     event->accept();
 }

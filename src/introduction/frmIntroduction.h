@@ -37,6 +37,20 @@ public:
     frmIntroduction(CollisionSetup& setup, FluidParameters& fluid);
     ~frmIntroduction() override;
 
+    // The buttons of cmdCommand, by index.
+    enum Command {
+        ExitButton = 0,
+        PreviousUnitButton = 1,
+        PreviousPageButton = 2,
+        NextPageButton = 3,
+        NextUnitButton = 4,
+        SimulationButton = 5,
+        GoToButton = 6,
+        OptionsButton = 7,
+        PauseButton = 8,
+        StepButton = 9,
+    };
+
     // The handlers of the controls.
     void cmdCommand_Click(int Index);
     void txtUnit_Change();
@@ -92,6 +106,9 @@ private:
     // Marks a typed unit or page number valid or refused; a valid one becomes the
     // position, a refused one disables "Go To". True when it was valid.
     bool takeTypedNumber(QLineEdit* box, int16_t max, int16_t& position);
+
+    // What the status line shows when the window is minimised or closed.
+    static QString ClosingHint();
 
     bool onCollisionPage() const;
     bool onLiquidPage() const;

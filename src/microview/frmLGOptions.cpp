@@ -2,13 +2,12 @@
 
 #include "core/EntryFilter.h"
 #include "core/Numeric.h"
-#include "widgets/OptionsWidgets.h"
 #include "model/FluidParameters.h"
 #include "widgets/FormLayout.h"
-#include "widgets/WindowRelease.h"
 #include "widgets/HandlerGuard.h"
+#include "widgets/OptionsWidgets.h"
 #include "widgets/StatusHints.h"
-#include "widgets/suppl.h"
+#include "widgets/TypingLimit.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -23,6 +22,8 @@ constexpr int16_t MaxRows = 6;
 constexpr int16_t MaxColumns = 5;
 // Digits only: no minus sign, no decimal point.
 constexpr int16_t WholeNumberFlags = 1;
+// The characters a learner may type into either field.
+constexpr int FieldTypingLimit = 3;
 
 constexpr int ClientWidth = 4335;
 // Outer heights of the designed window, and the part of them taken by the caption
@@ -30,20 +31,18 @@ constexpr int ClientWidth = 4335;
 constexpr int WindowHeight = 3975;
 constexpr int Page8WindowHeight = 3495;
 constexpr int CaptionAndBorders = 360;
-// Page 8 has no liquid surface switch: the buttons move up over its place.
+// The second liquid page has no liquid surface switch: the buttons move up over its place.
 constexpr int Page8Lift = 480;
-
-constexpr int FieldRows = 0;
-constexpr int FieldColumns = 1;
 
 } // namespace
 
 frmLGOptions::frmLGOptions(FluidParameters& fluid, int16_t page) : m_fluid(fluid), m_page(page)
 {
     setObjectName("frmLGOptions");
-    setWindowTitle(QStringLiteral("Parameters of Gas Molecules"));
+    setWindowTitle(tr("Parameters of Gas Molecules"));
     setModal(true);
     FormLayout::fixSize(this, ClientWidth, WindowHeight - CaptionAndBorders);
+    useColorChooser(CMDColors);
     createControls();
     installHints();
     ShowCurrentValues();
@@ -56,7 +55,7 @@ void frmLGOptions::createControls()
     fraOptions->setObjectName("fraOptions");
     FormLayout::place(fraOptions, 120, 120, 4095, 2415);
 
-    const QStringList titles = {QStringLiteral("# of rows"), QStringLiteral("# of columns")};
+    const QString titles[2] = {tr("# of rows"), tr("# of columns")};
     const int titleTops[2] = {240, 975};
     for (int i = 0; i < 2; ++i) {
         lblTitle[i] = new QLabel(titles[i], fraOptions);
@@ -69,14 +68,13 @@ void frmLGOptions::createControls()
     txtNoOfColumns = new QLineEdit(fraOptions);
     txtNoOfColumns->setObjectName("txtNoOfColumns");
     FormLayout::place(txtNoOfColumns, 360, 1320, 495, 285);
-    for (QLineEdit* box : {txtNoOfRows, txtNoOfColumns})
-        box->setMaxLength(3);
+    m_rowsLimit = new TypingLimit(txtNoOfRows, FieldTypingLimit);
+    m_columnsLimit = new TypingLimit(txtNoOfColumns, FieldTypingLimit);
     connect(txtNoOfRows, &QLineEdit::textEdited, this, [this] { RunGuarded([this] { txtNoOfRows_Change(); }); });
-    connect(txtNoOfColumns, &QLineEdit::textEdited, this,
-        [this] { RunGuarded([this] { txtNoOfColumns_Change(); }); });
+    connect(txtNoOfColumns, &QLineEdit::textEdited, this, [this] { RunGuarded([this] { txtNoOfColumns_Change(); }); });
 
-    createColorRow(0, QStringLiteral("First kind:"), 360);
-    createColorRow(1, QStringLiteral("Second kind:"), 1095);
+    createColorRow(0, tr("First kind:"), 360);
+    createColorRow(1, tr("Second kind:"), 1095);
 
     chk3DLiquidSurface = new QWidget(fraOptions);
     chk3DLiquidSurface->setObjectName("chk3DLiquidSurface");
@@ -86,6 +84,8 @@ void frmLGOptions::createControls()
     chk3DLiquidSurface->setAttribute(Qt::WA_NoMousePropagation);
 
     createCommandButtons();
+    cmdCommand[Ok]->setDefault(true);
+    placeCommandButtons(0);
 }
 
 void frmLGOptions::createColorRow(int index, const QString& caption, int top)
@@ -102,67 +102,55 @@ void frmLGOptions::createColorRow(int index, const QString& caption, int top)
     cmdColorSelection[index] = new QPushButton(fraOptions);
     cmdColorSelection[index]->setObjectName(indexedName("cmdColorSelection", index));
     FormLayout::place(cmdColorSelection[index], 3600, index == 0 ? 720 : 1455, 255, 255);
-
-    auto choose = [this, index] { RunGuarded([this, index] { cmdColorSelection_Click(index); }); };
-    connect(cmdColorSelection[index], &QPushButton::clicked, this, choose);
-    onClick(lblColorSelection[index], choose);
-    onClick(lblCurrentColor[index], choose);
+    addColorChoice(cmdColorSelection[index], lblColorSelection[index], lblCurrentColor[index]);
 }
 
-void frmLGOptions::createCommandButtons()
+void frmLGOptions::placeCommandButtons(int lift)
 {
-    const QStringList captions = {QStringLiteral("Ok"), QStringLiteral("Cancel"), QStringLiteral("Default values")};
-    for (int i = 0; i < 3; ++i) {
-        cmdCommand[i] = new QPushButton(captions[i], this);
-        cmdCommand[i]->setObjectName(indexedName("cmdCommand", i));
-        cmdCommand[i]->setAutoDefault(false);
-        connect(cmdCommand[i], &QPushButton::clicked, this, [this, i] { RunGuarded([this, i] { cmdCommand_Click(i); }); });
-        onMouseMove(cmdCommand[i], [i] { ShowOptionsButtonHint(int16_t(i)); });
-    }
-    cmdCommand[0]->setDefault(true);
-    FormLayout::place(cmdCommand[0], 2280, 3120, 1935, 375);
-    FormLayout::place(cmdCommand[1], 120, 3120, 1935, 375);
-    FormLayout::place(cmdCommand[2], 120, 2640, 4095, 375);
+    FormLayout::place(cmdCommand[Ok], 2280, 3120 - lift, 1935, 375);
+    FormLayout::place(cmdCommand[Cancel], 120, 3120 - lift, 1935, 375);
+    FormLayout::place(cmdCommand[DefaultValues], 120, 2640 - lift, 4095, 375);
 }
 
 void frmLGOptions::installHints()
 {
-    StatusHints::install(this, QStringLiteral("Επιλογές Απεικόνισης Μορίων Ρευστών"));
-    StatusHints::install(lblTitle[0], QStringLiteral("Πλήθος σειρών μορίων"));
-    StatusHints::install(lblTitle[1], QStringLiteral("Πλήθος στηλών μορίων"));
-    StatusHints::install(txtNoOfRows, QStringLiteral("Εισαγωγή πλήθους σειρών μορίων (1,%1]").arg(MaxRows));
-    StatusHints::install(
-        txtNoOfColumns, QStringLiteral("Εισαγωγή πλήθους στηλών μορίων (1,%1]").arg(MaxColumns));
-    const QStringList groups = {QStringLiteral("1ης"), QStringLiteral("2ης")};
+    StatusHints::install(this, tr("Επιλογές Απεικόνισης Μορίων Ρευστών"));
+    StatusHints::install(lblTitle[0], tr("Πλήθος σειρών μορίων"));
+    StatusHints::install(lblTitle[1], tr("Πλήθος στηλών μορίων"));
+    StatusHints::install(txtNoOfRows, tr("Εισαγωγή πλήθους σειρών μορίων (1,%1]").arg(MaxRows));
+    StatusHints::install(txtNoOfColumns, tr("Εισαγωγή πλήθους στηλών μορίων (1,%1]").arg(MaxColumns));
+    const QString choose[2] = {tr("Επιλογή χρώματος 1ης ομάδας μορίων"), tr("Επιλογή χρώματος 2ης ομάδας μορίων")};
+    const QString current[2] = {tr("Τρέχον χρώμα 1ης ομάδας μορίων"), tr("Τρέχον χρώμα 2ης ομάδας μορίων")};
     for (int i = 0; i < 2; ++i) {
-        const QString choose = QStringLiteral("Επιλογή χρώματος %1 ομάδας μορίων").arg(groups[i]);
-        StatusHints::install(lblColorSelection[i], choose);
-        StatusHints::install(cmdColorSelection[i], choose);
-        StatusHints::install(lblCurrentColor[i], QStringLiteral("Τρέχον χρώμα %1 ομάδας μορίων").arg(groups[i]));
+        StatusHints::install(lblColorSelection[i], choose[i]);
+        StatusHints::install(cmdColorSelection[i], choose[i]);
+        StatusHints::install(lblCurrentColor[i], current[i]);
     }
 }
 
 void frmLGOptions::ArrangeForPage()
 {
-    if (m_page != 8)
+    if (m_page != FluidParameters::SecondLiquidPage)
         return;
-    FormLayout::place(cmdCommand[2], 120, 2640 - Page8Lift, 4095, 375);
-    FormLayout::place(cmdCommand[0], 2280, 3120 - Page8Lift, 1935, 375);
-    FormLayout::place(cmdCommand[1], 120, 3120 - Page8Lift, 1935, 375);
+    placeCommandButtons(Page8Lift);
     for (QPushButton* button : cmdCommand)
         button->raise();
     FormLayout::fixSize(this, ClientWidth, Page8WindowHeight - CaptionAndBorders);
 }
 
-void frmLGOptions::ShowCurrentValues()
+void frmLGOptions::showValues(const FluidParameters& fluid, const std::array<float, 3>& colors)
 {
-    const FluidParameters& fluid = m_fluid;
-    txtNoOfRows->setText(QString::number(fluid.FluidRows));
+    m_rowsLimit->setText(QString::number(fluid.FluidRows));
     txtNoOfRows_Change();
-    txtNoOfColumns->setText(QString::number(fluid.FluidColumns));
+    m_columnsLimit->setText(QString::number(fluid.FluidColumns));
     txtNoOfColumns_Change();
     for (int i = 0; i < 2; ++i)
-        setSwatchColor(lblCurrentColor[i], Numeric::toInt32(fluid.FluidGroupColor[i + 1]));
+        setSwatchColor(lblCurrentColor[i], Numeric::toInt32(colors[i + 1]));
+}
+
+void frmLGOptions::ShowCurrentValues()
+{
+    showValues(m_fluid, m_fluid.FluidGroupColor);
     InvalidFields.clear();
 }
 
@@ -177,13 +165,9 @@ void frmLGOptions::AcceptValues()
 
 void frmLGOptions::ShowDefaultValues()
 {
-    txtNoOfRows->setText(QStringLiteral("6"));
-    txtNoOfRows_Change();
-    txtNoOfColumns->setText(QStringLiteral("5"));
-    txtNoOfColumns_Change();
-    const FluidParameters& fluid = m_fluid;
-    for (int i = 0; i < 2; ++i)
-        setSwatchColor(lblCurrentColor[i], Numeric::toInt32(fluid.DefaultFluidGroupColor[i + 1]));
+    // The rows and columns of a fresh record, the colours the record offers as its
+    // defaults.
+    showValues(FluidParameters(), m_fluid.DefaultFluidGroupColor);
 }
 
 void frmLGOptions::txtNoOfRows_Change()
@@ -198,43 +182,4 @@ void frmLGOptions::txtNoOfColumns_Change()
     const bool valid = IsValidNumber(WholeNumberFlags, txtNoOfColumns->text(), MaxColumns);
     showValidity(txtNoOfColumns, valid);
     MarkFieldValidity(FieldColumns, valid);
-}
-
-void frmLGOptions::MarkFieldValidity(int Index, bool Valid)
-{
-    if (Valid)
-        InvalidFields.erase(Index);
-    else
-        InvalidFields.insert(Index);
-    cmdCommand[0]->setEnabled(InvalidFields.empty());
-}
-
-void frmLGOptions::cmdCommand_Click(int Index)
-{
-    switch (Index) {
-    case 0:
-        AcceptValues();
-        accept();
-        CloseAndRelease(this);
-        break;
-    case 1:
-        reject();
-        break;
-    case 2:
-        ShowDefaultValues();
-        break;
-    default:
-        break;
-    }
-}
-
-void frmLGOptions::reject()
-{
-    QDialog::reject();
-    CloseAndRelease(this);
-}
-
-void frmLGOptions::cmdColorSelection_Click(int Index)
-{
-    setSwatchColor(lblCurrentColor[Index], CMDColors.ShowColor(this));
 }

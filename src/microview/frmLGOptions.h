@@ -1,12 +1,10 @@
 #pragma once
 
 #include "widgets/ColorChooser.h"
-
-#include <QDialog>
+#include "widgets/ParameterDialog.h"
 
 #include <array>
 #include <cstdint>
-#include <set>
 
 struct FluidParameters;
 class QGroupBox;
@@ -14,11 +12,12 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QWidget;
+class TypingLimit;
 
 // "Parameters of Gas Molecules": the modal dialog in which the learner sets the
 // rows, columns and two group colours of the liquid pages' molecules. It edits a
 // working copy in its controls; the shared fluid values change only on "Ok".
-class frmLGOptions : public QDialog
+class frmLGOptions : public ParameterDialog
 {
     Q_OBJECT
 
@@ -28,15 +27,16 @@ public:
     // on "Ok".
     frmLGOptions(FluidParameters& fluid, int16_t page);
 
-    // The handlers of the controls.
-    void cmdCommand_Click(int Index);
-    void cmdColorSelection_Click(int Index);
+    // The handlers of the entry fields.
     void txtNoOfRows_Change();
     void txtNoOfColumns_Change();
 
-public slots:
-    // Escape and the close box cancel, as "Cancel" does.
-    void reject() override;
+    // The entry fields, by their index in InvalidFields.
+    enum Field
+    {
+        FieldRows = 0,
+        FieldColumns = 1
+    };
 
 private:
     FluidParameters& m_fluid;
@@ -44,25 +44,24 @@ private:
 
     void createControls();
     void createColorRow(int index, const QString& caption, int top);
-    void createCommandButtons();
+    void placeCommandButtons(int lift);
     void installHints();
     void ArrangeForPage();
 
-    void ShowCurrentValues();
-    void AcceptValues();
-    void ShowDefaultValues();
-    void MarkFieldValidity(int Index, bool Valid);
+    void ShowCurrentValues() override;
+    void AcceptValues() override;
+    void ShowDefaultValues() override;
+    void showValues(const FluidParameters& fluid, const std::array<float, 3>& colors);
 
     QGroupBox* fraOptions = nullptr;
     std::array<QLabel*, 2> lblTitle{};
     QLineEdit* txtNoOfRows = nullptr;
     QLineEdit* txtNoOfColumns = nullptr;
+    TypingLimit* m_rowsLimit = nullptr;
+    TypingLimit* m_columnsLimit = nullptr;
     std::array<QLabel*, 2> lblColorSelection{};
     std::array<QLabel*, 2> lblCurrentColor{};
     std::array<QPushButton*, 2> cmdColorSelection{};
     QWidget* chk3DLiquidSurface = nullptr;
-    std::array<QPushButton*, 3> cmdCommand{};
     ColorChooser CMDColors;
-
-    std::set<int> InvalidFields;
 };

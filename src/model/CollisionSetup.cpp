@@ -11,33 +11,28 @@ constexpr int32_t White = Rgb::RGB(255, 255, 255);
 
 CollisionSetup::CollisionSetup()
 {
-    resetDefaults(White);
+    makeDefaultColours(White);
     useDefaultColours();
-    Page = 1;
 }
 
-void CollisionSetup::resetDefaults(int32_t background)
+void CollisionSetup::makeDefaultColours(int32_t background)
 {
     DefaultBodyColor = {float(Rgb::RGB(80, 255, 80) ^ background),
                         float(Rgb::RGB(255, 255, 80) ^ background)};
     // The velocity arrows take body 2's colour with its blue turned over.
     DefaultVelocityColor = float(Numeric::toInt32(DefaultBodyColor[2]) ^ Rgb::RGB(0, 0, 255));
     DefaultForceColor = float(Rgb::RGB(255, 0, 0) ^ background);
+}
 
-    Mass = {10, 15};
-    Radius = {10, 10};
-    X = {0, 100};
-    Y = {0, 0};
-    Ux = {100, 50};
-    Uy = {0, 0};
-
-    ShowVelocities = 1;
-    ShowForces = 1;
-    GraphDistance = 1;
-    GraphVelocity = 1;
-    GraphForce = 1;
-    ForceModel = LinearModel;
-    ProportionalGraphs = 0;
+void CollisionSetup::resetDefaults(int32_t background)
+{
+    CollisionSetup defaults;
+    defaults.BodyColor = BodyColor;
+    defaults.VelocityColor = VelocityColor;
+    defaults.ForceColor = ForceColor;
+    defaults.Page = Page;
+    defaults.makeDefaultColours(background);
+    *this = defaults;
 }
 
 void CollisionSetup::useDefaultColours()

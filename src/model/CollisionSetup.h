@@ -17,24 +17,30 @@ public:
     static constexpr int16_t ContinuousVelocity = 1; // "u=f(t), continuous": constant force
     static constexpr int16_t ContinuousForce = 2;    // "u=f(t), F=f(t), continuous": triangular force
 
+    // The introduction pages the experiment is shown on, as Page holds them.
+    static constexpr int16_t AboveView = 1; // collision forms, seen from above
+    static constexpr int16_t SideView = 2;  // the experiment from the side, with graphs
+
     // A record holding the defaults against a white background, current colours
-    // included, so that a fresh record describes a valid experiment.
+    // included, so that a fresh record describes a valid experiment. The defaults
+    // are written here once, as the fields' initial values.
     CollisionSetup();
 
-    // Writes every default parameter: masses, radii, positions, velocities,
-    // switches, force model and the default colours made against the given
-    // background. The current colours are left as they are.
+    // Writes every default parameter, those of a fresh record: masses, radii,
+    // positions, velocities, switches, force model, and the default colours made
+    // against the given background. The current colours and the page are left as
+    // they are.
     void resetDefaults(int32_t background);
 
     // Makes the current colours the default ones.
     void useDefaultColours();
 
-    CollisionArray<int16_t, 2> Mass;   // kg
-    CollisionArray<float, 2> Radius;   // m
-    CollisionArray<float, 2> X;        // initial centre, m
-    CollisionArray<float, 2> Y;
-    CollisionArray<float, 2> Ux;       // initial velocity, m/sec
-    CollisionArray<float, 2> Uy;
+    CollisionArray<int16_t, 2> Mass{10, 15}; // kg
+    CollisionArray<float, 2> Radius{10, 10}; // m
+    CollisionArray<float, 2> X{0, 100};      // initial centre, m
+    CollisionArray<float, 2> Y{0, 0};
+    CollisionArray<float, 2> Ux{100, 50};    // initial velocity, m/sec
+    CollisionArray<float, 2> Uy{0, 0};
 
     CollisionArray<float, 2> BodyColor;
     float VelocityColor = 0;
@@ -50,6 +56,10 @@ public:
     int16_t GraphForce = 1;
     int16_t ProportionalGraphs = 0;
     int16_t ForceModel = LinearModel;
-    // The introduction page (1 view from above, 2 side view) handed to the dialog.
-    int16_t Page = 1;
+    // The introduction page (AboveView or SideView) handed to the dialog.
+    int16_t Page = AboveView;
+
+private:
+    // Makes the default colours against a background.
+    void makeDefaultColours(int32_t background);
 };

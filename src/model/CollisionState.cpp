@@ -260,19 +260,22 @@ std::string CollisionState::CheckMessage(int16_t code)
 {
     switch (code) {
     case CodeMovingApart:
-        return "Initial positions and velocities lead to increasing distance of bodies.";
+        return QT_TRANSLATE_NOOP("CollisionState",
+            "Initial positions and velocities lead to increasing distance of bodies.");
     case CodeOverlapping:
-        return "Bodies are overlaping!";
+        return QT_TRANSLATE_NOOP("CollisionState", "Bodies are overlaping!");
     case CodeEqualX:
-        return "x components of velocity are equal, thus leading to no collision.";
+        return QT_TRANSLATE_NOOP("CollisionState", "x components of velocity are equal, thus leading to no collision.");
     case CodeEqualY:
-        return "y components of velocity are equal, thus leading to no collision.";
+        return QT_TRANSLATE_NOOP("CollisionState", "y components of velocity are equal, thus leading to no collision.");
     case CodeOverlapping + CodeEqualX:
-        return "Bodies are overlaping! Additionally, x components of velocity are equal, thus leading to no collision.";
+        return QT_TRANSLATE_NOOP("CollisionState",
+            "Bodies are overlaping! Additionally, x components of velocity are equal, thus leading to no collision.");
     case CodeOverlapping + CodeEqualY:
-        return "Bodies are overlaping! Additionally, y components of velocity are equal, thus leading to no collision.";
+        return QT_TRANSLATE_NOOP("CollisionState",
+            "Bodies are overlaping! Additionally, y components of velocity are equal, thus leading to no collision.");
     case CodeNoCollision:
-        return "Initial condition do not lead to a collision.";
+        return QT_TRANSLATE_NOOP("CollisionState", "Initial condition do not lead to a collision.");
     default:
         return {};
     }
@@ -283,6 +286,7 @@ std::string CollisionState::CheckBoxText(int16_t code)
     const std::string message = CheckMessage(code);
     if (message.empty())
         return {};
-    return "Attention!\r" + message
-           + " Please try again with different parameters by clicking on the button \"Options\".";
+    const std::string frame = CheckBoxFrame;
+    const size_t at = frame.find("%1");
+    return frame.substr(0, at) + message + frame.substr(at + 2);
 }

@@ -4,6 +4,8 @@
 #include "CollisionContactLaw.h"
 #include "CollisionSetup.h"
 
+#include <QtGlobal>
+
 #include <cstdint>
 #include <string>
 
@@ -38,8 +40,12 @@ public:
     static constexpr float SpikeForce = 1000000000.0f;
     static constexpr float SpikeHalfWidth = 0.002f;
 
-    // The title of the check's message box.
-    static constexpr const char* CheckTitle = "Simulation Results";
+    // The title of the check's message box, and its text around the message of a
+    // check code (%1). Both are marked for translation in the context
+    // "CollisionState", where the window that shows them looks them up.
+    static constexpr const char* CheckTitle = QT_TRANSLATE_NOOP("CollisionState", "Simulation Results");
+    static constexpr const char* CheckBoxFrame = QT_TRANSLATE_NOOP("CollisionState",
+        "Attention!\r%1 Please try again with different parameters by clicking on the button \"Options\".");
 
     // A state that reads the given parameters (the program's record by default),
     // which must outlive it.
@@ -65,7 +71,8 @@ public:
     // "u=f(t), F=f(t)", the constant force in "u=f(t)", 0 in the linear model.
     float ContactForce(int16_t body) const { return m_force[body]; }
 
-    // The message of a check code, or empty for a code that shows none.
+    // The message of a check code, or empty for a code that shows none; marked for
+    // translation in the context "CollisionState".
     static std::string CheckMessage(int16_t code);
     // The whole text of the check's message box ("Attention!", a carriage return,
     // the message and the closing sentence), or empty for a silent code.

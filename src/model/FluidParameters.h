@@ -11,6 +11,11 @@
 // edits it and the defaults routine restores it.
 struct FluidParameters
 {
+    // The two liquid pages of the introduction's unit 2: the first draws the
+    // liquid's surface, the second has no place for that switch.
+    static constexpr int16_t FirstLiquidPage = 6;
+    static constexpr int16_t SecondLiquidPage = 8;
+
     // Rows and columns of fluid molecules.
     int16_t FluidRows = 6;
     int16_t FluidColumns = 5;

@@ -3,12 +3,13 @@
 #include "canvas/Rgb.h"
 
 #include <QColorDialog>
+#include <QCoreApplication>
 
 int32_t ColorChooser::ShowColor(QWidget* parent)
 {
     QColorDialog dialog(parent);
     dialog.setObjectName("CMDcolors");
-    dialog.setWindowTitle(QStringLiteral("ABC Color Selection"));
+    dialog.setWindowTitle(QCoreApplication::translate("ColorChooser", "ABC Color Selection"));
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     dialog.setCurrentColor(Rgb::toQColor(m_Color));
     if (dialog.exec() == QDialog::Accepted)

@@ -4,6 +4,7 @@
 
 #include "core/RunTimeError.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <exception>
@@ -14,7 +15,7 @@ void report(const std::function<void()>& onFault, const QString& message)
 {
     if (onFault)
         onFault();
-    MsgBox(message, 16, QStringLiteral("Floatrix"));
+    MsgBox(message, 16, QCoreApplication::translate("HandlerGuard", "Floatrix"));
 }
 
 } // namespace
@@ -25,7 +26,8 @@ bool RunGuarded(const std::function<void()>& handler, const std::function<void()
         handler();
         return true;
     } catch (const RunTimeError& error) {
-        report(onFault, QString::fromStdString(error.what()));
+        // The run-time error's message is marked for translation where it is made.
+        report(onFault, QCoreApplication::translate("RunTimeError", error.what()));
     } catch (const std::exception& error) {
         report(onFault, QString::fromStdString(error.what()));
     }

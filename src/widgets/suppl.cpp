@@ -1,7 +1,9 @@
 #include "suppl.h"
 
+#include "ParameterDialog.h"
 #include "StatusLine.h"
 
+#include <QCoreApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
@@ -10,14 +12,14 @@
 void ShowOptionsButtonHint(int16_t Index)
 {
     switch (Index) {
-    case 0:
-        SetStatusLine(QStringLiteral("Accept parameter values and exit"));
+    case ParameterDialog::Ok:
+        SetStatusLine(QCoreApplication::translate("suppl", "Accept parameter values and exit"));
         break;
-    case 1:
-        SetStatusLine(QStringLiteral("Cancel changes and exit"));
+    case ParameterDialog::Cancel:
+        SetStatusLine(QCoreApplication::translate("suppl", "Cancel changes and exit"));
         break;
-    case 2:
-        SetStatusLine(QStringLiteral("Default values for all parameters"));
+    case ParameterDialog::DefaultValues:
+        SetStatusLine(QCoreApplication::translate("suppl", "Default values for all parameters"));
         break;
     default:
         SetStatusLine(QString());
