@@ -12,6 +12,7 @@
 
 #include <QCloseEvent>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -148,6 +149,7 @@ void frmIdentify::watch(QWidget* control)
 
 void frmIdentify::ShowAbout()
 {
+    setWindowFlag(Qt::FramelessWindowHint, false);
     installHints();
     exec();
     Unload<frmIdentify>();
@@ -178,6 +180,7 @@ void frmIdentify::EffectTimer_Timer()
                 }
                 setFraIdentifyTop(top);
             } else if (m_EffectTimer.interval() == RestInterval) {
+                m_EffectTimer.stop();
                 ShowMainWindow();
             }
         },
@@ -186,7 +189,32 @@ void frmIdentify::EffectTimer_Timer()
 
 void frmIdentify::cmdClose_Click()
 {
+    // During the splash the button lies in the cut-off part of the window, yet Enter
+    // (it is the default button) and Space still reach it. There they do what a
+    // click does, so that the splash always ends in the main frame.
+    if (IsSplash()) {
+        AbortIntroduction();
+        return;
+    }
     Unload<frmIdentify>();
+}
+
+void frmIdentify::keyPressEvent(QKeyEvent* event)
+{
+    // Space on the window itself (Enter goes to the default button).
+    if (IsSplash() && event->key() == Qt::Key_Space) {
+        AbortIntroduction();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+void frmIdentify::reject()
+{
+    if (IsSplash())
+        AbortIntroduction();
+    else
+        QDialog::reject();
 }
 
 void frmIdentify::setFraIdentifyTop(int twips)
@@ -214,12 +242,13 @@ void frmIdentify::setLogoBorderStyle(int style)
 
 void frmIdentify::closeEvent(QCloseEvent* event)
 {
-    // Closing the splash by hand would leave the program with no window at all and
-    // nothing left to open one, so it ends the program instead.
-    const bool splashClosedByUser = event->spontaneous() && m_EffectTimer.isActive();
+    // The splash hands over to the main frame only from its timer, which stops
+    // first. Closed any other way it would leave the program with no window at all
+    // and nothing left to open one, so it ends the program instead.
+    const bool splashClosed = IsSplash();
     m_EffectTimer.stop();
     QDialog::closeEvent(event);
-    if (splashClosedByUser)
+    if (splashClosed)
         EndProgram();
 }
 

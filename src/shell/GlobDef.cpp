@@ -15,6 +15,8 @@ void StartUp()
 {
     QApplication::setWindowIcon(ProgramImages::icon());
     frmIdentify& splash = Form<frmIdentify>();
+    // Without a caption the splash has no title bar and no border either.
+    splash.setWindowFlag(Qt::FramelessWindowHint);
     splash.show();
     splash.setWindowTitle(QString());
     // The panel starts below the part of the window that stays visible and slides
