@@ -1,6 +1,6 @@
 #pragma once
 
-#include "introduction/ColorChooser.h"
+#include "shell/ColorChooserControl.h"
 
 #include <QDialog>
 
@@ -57,7 +57,7 @@ private:
     std::array<QPushButton*, 2> cmdColorSelection{};
     QWidget* chk3DLiquidSurface = nullptr;
     std::array<QPushButton*, 3> cmdCommand{};
-    ColorChooser CMDColors;
+    ColorChooserControl CMDColors{QStringLiteral("CMDColors")};
 
     std::set<int> InvalidFields;
 };

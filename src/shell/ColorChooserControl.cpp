@@ -1,0 +1,17 @@
+#include "ColorChooserControl.h"
+
+#include "canvas/Rgb.h"
+
+#include <QColorDialog>
+
+int32_t ColorChooserControl::ShowColor(QWidget* parent)
+{
+    QColorDialog dialog(parent);
+    dialog.setObjectName(m_name);
+    dialog.setWindowTitle(QStringLiteral("ABC Color Selection"));
+    dialog.setOption(QColorDialog::DontUseNativeDialog);
+    dialog.setCurrentColor(Rgb::toQColor(m_Color));
+    if (dialog.exec() == QDialog::Accepted)
+        m_Color = Rgb::fromQColor(dialog.selectedColor());
+    return m_Color;
+}
