@@ -78,6 +78,8 @@ private slots:
     void statusLineSpansTheFrameAndKeepsTheLastHint();
     void faultInAHandlerIsShownAndTheProgramGoesOn();
     void centreFormLeavesAMaximisedWindowAlone();
+    void childWindowsCentreAgainWhenRestored_data();
+    void childWindowsCentreAgainWhenRestored();
     void aBoxAfterADialogClosesOutlivesTheDialog();
 };
 
@@ -245,6 +247,40 @@ void MainFrameTest::centreFormLeavesAMaximisedWindowAlone()
     const QRect maximised = frame->geometry();
     CentreForm(&Form<frmIntroduction>());
     QCOMPARE(frame->geometry(), maximised);
+}
+
+void MainFrameTest::childWindowsCentreAgainWhenRestored_data()
+{
+    QTest::addColumn<int>("item");
+    QTest::newRow("Introduction") << 0;
+    QTest::newRow("Macroscopic View") << 1;
+    QTest::newRow("Microscopic View") << 2;
+}
+
+void MainFrameTest::childWindowsCentreAgainWhenRestored()
+{
+    // Each view centres itself whenever it is resized; maximising and restoring its
+    // child window are resizes too.
+    QFETCH(int, item);
+    MDIMain& main = Form<MDIMain>();
+    main.resize(1000, 760);
+    menuItem(QString("mnuContentsItem(%1)").arg(item))->trigger();
+    QMdiSubWindow* frame = main.mdiArea()->activeSubWindow();
+    QVERIFY(frame);
+    auto centred = [&] {
+        const QSize area = main.mdiArea()->viewport()->size();
+        return QPoint((area.width() - frame->width()) / 2, (area.height() - frame->height()) / 10);
+    };
+    QTRY_COMPARE(frame->pos(), centred());
+    frame->move(3, 4); // dragged aside: a move is no resize
+    QCOMPARE(frame->pos(), QPoint(3, 4));
+    frame->showMaximized();
+    QCOMPARE(frame->pos(), QPoint(0, 0));
+    frame->showNormal();
+    QTRY_COMPARE(frame->pos(), centred());
+    frame->showMinimized();
+    frame->showNormal();
+    QTRY_COMPARE(frame->pos(), centred());
 }
 
 void MainFrameTest::aBoxAfterADialogClosesOutlivesTheDialog()
