@@ -46,7 +46,7 @@ void RandomInputTest::programComesThroughRandomInput()
         ? qEnvironmentVariableIntValue("FLOATRIX_RANDOM_EVENTS")
         : 20000;
     ScopedRandomSequence fixed(double(seed % 30000));
-    if (qEnvironmentVariableIsSet("TMP_NOSPLASH")) ShowMainWindow(); else StartUp();
+    StartUp();
     RandomInput input(seed, events);
     testLog = qInstallMessageHandler(dropPlatformLimits);
     input.run(60);
