@@ -165,7 +165,10 @@ void frmIdentify::installHints()
 
 void frmIdentify::AbortIntroduction()
 {
-    m_EffectTimer.setInterval(RestInterval);
+    // Only a change of the interval restarts the timer's count: clicks that follow
+    // one another during the last second must not put the hand-over off for good.
+    if (m_EffectTimer.interval() != RestInterval)
+        m_EffectTimer.setInterval(RestInterval);
 }
 
 void frmIdentify::EffectTimer_Timer()

@@ -45,6 +45,7 @@ private slots:
     void keysDuringTheSplashShortenIt_data();
     void keysDuringTheSplashShortenIt();
     void splashClosedOtherwiseEndsTheProgram();
+    void furtherClicksDoNotPutTheHandOverOff();
     void aboutBoxShowsMemoryAndFramesTheIconOnHover();
     void memoryLineFormat();
 };
@@ -155,6 +156,25 @@ void IdentifyTest::splashClosedOtherwiseEndsTheProgram()
     QVERIFY(!IsLoaded<frmIdentify>());
     for (QWidget* window : QApplication::topLevelWidgets())
         QVERIFY2(!window->isVisible(), qPrintable(window->objectName()));
+}
+
+void IdentifyTest::furtherClicksDoNotPutTheHandOverOff()
+{
+    // A restless pupil clicks on and on: the second that began with the first click
+    // runs out all the same.
+    StartUp();
+    frmIdentify& splash = Form<frmIdentify>();
+    QTest::mouseClick(control("Picture2"), Qt::LeftButton, {}, QPoint(2, 2));
+    QCOMPARE(splash.EffectTimer().interval(), 1000);
+    QEventLoop moment;
+    QTimer::singleShot(300, &moment, &QEventLoop::quit);
+    moment.exec();
+    for (const char* name : {"Picture2", "lblID(6)", "picAuxiliary"})
+        QTest::mouseClick(control(name), Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::keyClick(&splash, Qt::Key_Space);
+    QVERIFY2(splash.EffectTimer().remainingTime() < 900, qPrintable(QString::number(splash.EffectTimer().remainingTime())));
+    QTRY_VERIFY_WITH_TIMEOUT(!IsLoaded<frmIdentify>(), 3000);
+    QVERIFY(Form<MDIMain>().isVisible());
 }
 
 void IdentifyTest::aboutBoxShowsMemoryAndFramesTheIconOnHover()
