@@ -12,8 +12,10 @@
 
 #include <QCloseEvent>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
@@ -148,9 +150,14 @@ void frmIdentify::watch(QWidget* control)
 
 void frmIdentify::ShowAbout()
 {
+    setWindowFlag(Qt::FramelessWindowHint, false);
     installHints();
+    // "&OK" releases the window itself, and the release may already have run when
+    // exec returns; a box closed any other way is released here.
+    const QPointer<frmIdentify> self(this);
     exec();
-    CloseAndRelease(this);
+    if (self && !IsReleased(self))
+        CloseAndRelease(self);
 }
 
 void frmIdentify::installHints()
@@ -163,7 +170,10 @@ void frmIdentify::installHints()
 
 void frmIdentify::AbortIntroduction()
 {
-    m_EffectTimer.setInterval(RestInterval);
+    // Only a change of the interval restarts the timer's count: clicks that follow
+    // one another during the last second must not put the hand-over off for good.
+    if (m_EffectTimer.interval() != RestInterval)
+        m_EffectTimer.setInterval(RestInterval);
 }
 
 void frmIdentify::EffectTimer_Timer()
@@ -178,6 +188,7 @@ void frmIdentify::EffectTimer_Timer()
                 }
                 setFraIdentifyTop(top);
             } else if (m_EffectTimer.interval() == RestInterval) {
+                m_EffectTimer.stop();
                 emit splashFinished();
             }
         },
@@ -186,7 +197,32 @@ void frmIdentify::EffectTimer_Timer()
 
 void frmIdentify::cmdClose_Click()
 {
+    // During the splash the button lies in the cut-off part of the window, yet Enter
+    // (it is the default button) and Space still reach it. There they do what a
+    // click does, so that the splash always ends in the main frame.
+    if (IsSplash()) {
+        AbortIntroduction();
+        return;
+    }
     CloseAndRelease(this);
+}
+
+void frmIdentify::keyPressEvent(QKeyEvent* event)
+{
+    // Space on the window itself (Enter goes to the default button).
+    if (IsSplash() && event->key() == Qt::Key_Space) {
+        AbortIntroduction();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+void frmIdentify::reject()
+{
+    if (IsSplash())
+        AbortIntroduction();
+    else
+        QDialog::reject();
 }
 
 void frmIdentify::setFraIdentifyTop(int twips)
@@ -214,12 +250,13 @@ void frmIdentify::setLogoBorderStyle(int style)
 
 void frmIdentify::closeEvent(QCloseEvent* event)
 {
-    // Closing the splash by hand would leave the program with no window at all and
-    // nothing left to open one, so the application ends the program instead.
-    const bool closedByHand = event->spontaneous() && m_EffectTimer.isActive();
+    // The splash hands over to the main frame only from its timer, which stops
+    // first. Closed any other way it would leave the program with no window at all
+    // and nothing left to open one, so the application ends the program instead.
+    const bool splashClosed = IsSplash();
     m_EffectTimer.stop();
     QDialog::closeEvent(event);
-    if (closedByHand)
+    if (splashClosed)
         emit splashClosedByUser();
 }
 

@@ -33,8 +33,15 @@ public:
     // The splash's tick: raises the panel a step, or after the rest hands over.
     void EffectTimer_Timer();
 
-    // The "&OK" button: unloads the window.
+    // The "&OK" button: unloads the About box; during the splash it shortens the
+    // splash instead.
     void cmdClose_Click();
+
+    // Whether the window is the splash: its timer runs until the hand-over.
+    bool IsSplash() const { return m_EffectTimer.isActive(); }
+
+    // Escape: closes the About box; during the splash it shortens the splash.
+    void reject() override;
 
     // The splash's timer, disabled until the start-up routine enables it.
     QTimer& EffectTimer() { return m_EffectTimer; }
@@ -53,11 +60,13 @@ public:
 signals:
     // The splash has rested and hands over to the main frame.
     void splashFinished();
-    // The user closed the splash by its close box.
+    // The splash closed other than by its own hand-over.
     void splashClosedByUser();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // During the splash, Space does what a click does.
+    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

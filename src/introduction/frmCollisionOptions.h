@@ -107,7 +107,7 @@ private:
     std::array<QPushButton*, 4> cmdColorSelection{};
     std::array<QLabel*, 4> lblCurrentColor{};
 
-    ColorChooser CMDcolors;
+    ColorChooser CMDcolors{QStringLiteral("CMDcolors")};
 
     // The typing limit of each box, by kind and body index.
     std::array<std::array<TypingLimit*, 2>, BodyParameterHints::KindCount> m_typingLimit{};

@@ -63,5 +63,5 @@ private:
     std::array<QLabel*, 2> lblCurrentColor{};
     std::array<QPushButton*, 2> cmdColorSelection{};
     QWidget* chk3DLiquidSurface = nullptr;
-    ColorChooser CMDColors;
+    ColorChooser CMDColors{QStringLiteral("CMDColors")};
 };

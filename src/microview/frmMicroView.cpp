@@ -15,6 +15,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLocale>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -127,10 +128,34 @@ void frmMicroView::forEachSample(const std::function<void(Gas&)>& action)
             action(*gas);
 }
 
+void frmMicroView::Form_Resize()
+{
+    CentreForm(this);
+}
+
 void frmMicroView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    RunGuarded([this] { CentreForm(this); });
+    RunGuarded([this] { Form_Resize(); });
+}
+
+void frmMicroView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // The form keeps its designed size, so maximising and restoring its child-window
+    // frame resize the frame alone; those changes reach the form through this filter.
+    QWidget* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (frame && frame != m_watchedFrame) {
+        frame->installEventFilter(this);
+        m_watchedFrame = frame;
+    }
+}
+
+bool frmMicroView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_watchedFrame && (event->type() == QEvent::WindowStateChange || event->type() == QEvent::Resize))
+        RunGuarded([this] { Form_Resize(); });
+    return QWidget::eventFilter(watched, event);
 }
 
 void frmMicroView::closeEvent(QCloseEvent* event)

@@ -4,6 +4,7 @@
 #include "MacroPanel.h"
 #include "MicroViewDesign.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <array>
@@ -46,6 +47,10 @@ public:
 protected:
     // Keeps the window centred in the frame (Form_Resize).
     void resizeEvent(QResizeEvent* event) override;
+    // Starts watching the child-window frame that holds the form.
+    void showEvent(QShowEvent* event) override;
+    // The frame's resizes, maximising and restoring included, centre the window too.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     // Stops the timer, so that no tick comes after the window has closed.
     void closeEvent(QCloseEvent* event) override;
 
@@ -55,6 +60,7 @@ private:
     void tick();
     void simulate();
     void pause();
+    void Form_Resize();
 
     void InitialiseProgram();
     void createSamples();
@@ -93,4 +99,5 @@ private:
     TickDriver* SimulationTimer = nullptr;
     // Whether the samples are running; the button's caption and tip follow it.
     bool m_running = false;
+    QPointer<QWidget> m_watchedFrame;
 };

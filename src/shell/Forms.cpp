@@ -8,6 +8,7 @@
 #include "macroview/MoviePlayer.h"
 #include "macroview/frmMacroView.h"
 #include "microview/frmMicroView.h"
+#include "widgets/MsgBox.h"
 #include "widgets/StatusLine.h"
 
 #include <QCoreApplication>
@@ -25,7 +26,9 @@ const bool StatusLineConnected = [] {
 
 MDIMain* NewForm(MDIMain*)
 {
-    return new MDIMain();
+    auto* frame = new MDIMain();
+    SetMsgBoxOwner(frame);
+    return frame;
 }
 
 frmIdentify* NewForm(frmIdentify*)

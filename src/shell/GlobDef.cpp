@@ -17,6 +17,8 @@ void StartUp()
     frmIdentify& splash = Form<frmIdentify>();
     QObject::connect(&splash, &frmIdentify::splashFinished, &splash, &ShowMainWindow);
     QObject::connect(&splash, &frmIdentify::splashClosedByUser, &splash, &EndProgram);
+    // Without a caption the splash has no title bar and no border either.
+    splash.setWindowFlag(Qt::FramelessWindowHint);
     splash.show();
     splash.setWindowTitle(QString());
     // The panel starts below the part of the window that stays visible and slides

@@ -8,7 +8,7 @@
 int32_t ColorChooser::ShowColor(QWidget* parent)
 {
     QColorDialog dialog(parent);
-    dialog.setObjectName("CMDcolors");
+    dialog.setObjectName(m_name);
     dialog.setWindowTitle(QCoreApplication::translate("ColorChooser", "ABC Color Selection"));
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     dialog.setCurrentColor(Rgb::toQColor(m_Color));

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
+#include <utility>
 
 class QWidget;
 
@@ -10,6 +13,9 @@ class QWidget;
 class ColorChooser
 {
 public:
+    // The chooser's dialog carries the name its parameter dialog gives it.
+    explicit ColorChooser(QString name) : m_name(std::move(name)) {}
+
     // Shows the chooser over the parent and returns the colour it holds when it
     // closes: the chosen one, or after a cancel the one it held before.
     int32_t ShowColor(QWidget* parent);
@@ -18,5 +24,6 @@ public:
     int32_t Color() const { return m_Color; }
 
 private:
+    QString m_name;
     int32_t m_Color = 0;
 };

@@ -1,9 +1,15 @@
 #include "MsgBox.h"
 
-#include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 
 namespace {
+
+QPointer<QWidget>& boxOwner()
+{
+    static QPointer<QWidget> owner;
+    return owner;
+}
 
 QMessageBox::Icon iconOf(int style)
 {
@@ -23,13 +29,23 @@ QMessageBox::Icon iconOf(int style)
 
 } // namespace
 
+void SetMsgBoxOwner(QWidget* owner)
+{
+    boxOwner() = owner;
+}
+
 int MsgBox(const QString& prompt, int style, const QString& title)
 {
     const bool yesNo = (style & 0x0F) == 4;
-    QMessageBox box(iconOf(style), title, prompt,
-        yesNo ? (QMessageBox::Yes | QMessageBox::No) : QMessageBox::Ok, QApplication::activeWindow());
-    box.setObjectName("MsgBox");
-    const int pressed = box.exec();
+    // The box belongs to the main frame, which lives as long as the program, and to
+    // no window before the frame is there. The window active when a box comes up may
+    // be a dialog that has just closed: its release, still pending, runs in the
+    // box's own event loop and would take a box it owned down while it shows.
+    QPointer<QMessageBox> box = new QMessageBox(iconOf(style), title, prompt,
+        yesNo ? (QMessageBox::Yes | QMessageBox::No) : QMessageBox::Ok, boxOwner().data());
+    box->setObjectName("MsgBox");
+    const int pressed = box->exec();
+    delete box.data();
     if (!yesNo)
         return MsgBoxAnswer::Ok;
     return pressed == QMessageBox::Yes ? MsgBoxAnswer::Yes : MsgBoxAnswer::No;

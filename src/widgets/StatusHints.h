@@ -6,7 +6,10 @@
 class QWidget;
 
 // Status-line hints: moving the mouse over a control writes its hint into the main
-// frame's status line, where it stays until the next hint.
+// frame's status line, where it stays until the next hint. The hint of the control
+// under the pointer stays while the pointer moves over it; a form's or frame's own
+// hint shows only over the form or frame itself, and a disabled control leaves the
+// moves over it to the form or frame beneath.
 class StatusHints : public QObject
 {
     Q_OBJECT

@@ -42,6 +42,10 @@ class IdentifyTest : public QObject
 private slots:
     void cleanup();
     void splashSlidesUpRestsAndHandsOver();
+    void keysDuringTheSplashShortenIt_data();
+    void keysDuringTheSplashShortenIt();
+    void splashClosedOtherwiseEndsTheProgram();
+    void furtherClicksDoNotPutTheHandOverOff();
     void aboutBoxShowsMemoryAndFramesTheIconOnHover();
     void memoryLineFormat();
 };
@@ -59,7 +63,10 @@ void IdentifyTest::splashSlidesUpRestsAndHandsOver()
     frmIdentify& splash = Form<frmIdentify>();
     QVERIFY(splash.isVisible());
     QCOMPARE(splash.windowTitle(), QString());
+    // No caption: no title bar and no border, so the outer height is the visible one.
+    QVERIFY(splash.windowFlags().testFlag(Qt::FramelessWindowHint));
     QCOMPARE(splash.frameGeometry().height(), Twips::toPixels(3455));
+    QCOMPARE(splash.height(), Twips::toPixels(3455));
     QVERIFY(splash.EffectTimer().isActive());
     QCOMPARE(splash.EffectTimer().interval(), 50);
     // 0.8 of the design inner height, below the part that stays visible.
@@ -102,9 +109,76 @@ void IdentifyTest::splashSlidesUpRestsAndHandsOver()
     QCOMPARE(Form<MDIMain>().statusLine(), QString());
 }
 
+void IdentifyTest::keysDuringTheSplashShortenIt_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::newRow("Return") << int(Qt::Key_Return) << int(Qt::NoModifier);
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << int(Qt::KeypadModifier);
+    QTest::newRow("Space") << int(Qt::Key_Space) << int(Qt::NoModifier);
+    QTest::newRow("Escape") << int(Qt::Key_Escape) << int(Qt::NoModifier);
+}
+
+void IdentifyTest::keysDuringTheSplashShortenIt()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    StartUp();
+    frmIdentify& splash = Form<frmIdentify>();
+    for (int step = 0; step < 10; ++step)
+        splash.EffectTimer_Timer();
+    // The keys reach the window itself, or the hidden "&OK" once the window is active.
+    QTest::keyClick(&splash, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(splash.EffectTimer().interval(), 1000);
+    splash.EffectTimer().setInterval(50);
+    QVERIFY(QTest::qWaitForWindowActive(&splash));
+    QCOMPARE(splash.focusWidget(), control("cmdClose"));
+    const int top = panelTop();
+    QTest::keyClick(splash.focusWidget(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+
+    // Like a click: the panel stops, the splash stays for its last second and then
+    // gives way to the main frame.
+    QVERIFY(IsLoaded<frmIdentify>() && splash.isVisible());
+    QCOMPARE(splash.EffectTimer().interval(), 1000);
+    QCOMPARE(panelTop(), top);
+    splash.EffectTimer_Timer();
+    QVERIFY(!IsLoaded<frmIdentify>());
+    QVERIFY(Form<MDIMain>().isVisible());
+}
+
+void IdentifyTest::splashClosedOtherwiseEndsTheProgram()
+{
+    StartUp();
+    Form<frmIdentify>().close();
+    QVERIFY(!IsLoaded<frmIdentify>() || !Form<frmIdentify>().isVisible());
+    QVERIFY(!IsLoaded<MDIMain>());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!IsLoaded<frmIdentify>());
+    for (QWidget* window : QApplication::topLevelWidgets())
+        QVERIFY2(!window->isVisible(), qPrintable(window->objectName()));
+}
+
+void IdentifyTest::furtherClicksDoNotPutTheHandOverOff()
+{
+    // A restless pupil clicks on and on: the second that began with the first click
+    // runs out all the same.
+    StartUp();
+    frmIdentify& splash = Form<frmIdentify>();
+    QTest::mouseClick(control("Picture2"), Qt::LeftButton, {}, QPoint(2, 2));
+    QCOMPARE(splash.EffectTimer().interval(), 1000);
+    QEventLoop moment;
+    QTimer::singleShot(300, &moment, &QEventLoop::quit);
+    moment.exec();
+    for (const char* name : {"Picture2", "lblID(6)", "picAuxiliary"})
+        QTest::mouseClick(control(name), Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::keyClick(&splash, Qt::Key_Space);
+    QVERIFY2(splash.EffectTimer().remainingTime() < 900, qPrintable(QString::number(splash.EffectTimer().remainingTime())));
+    QTRY_VERIFY_WITH_TIMEOUT(!IsLoaded<frmIdentify>(), 3000);
+    QVERIFY(Form<MDIMain>().isVisible());
+}
+
 void IdentifyTest::aboutBoxShowsMemoryAndFramesTheIconOnHover()
 {
-    ShowMainWindow();
     bool designState = false;
     QString memory;
     QStringList borders;
@@ -112,7 +186,7 @@ void IdentifyTest::aboutBoxShowsMemoryAndFramesTheIconOnHover()
     ModalAnswerer act([&](QWidget* modal) {
         frmIdentify& about = Form<frmIdentify>();
         designState = modal == &about && about.windowTitle() == "About..." && panelTop() == 120
-            && !about.EffectTimer().isActive();
+            && !about.EffectTimer().isActive() && !about.windowFlags().testFlag(Qt::FramelessWindowHint);
         memory = static_cast<QLabel*>(control("lblInfo"))->text();
         for (const char* name : {"picLogo", "lblInfo", "picLogo", "cmdClose", "picLogo", "FraIdentify",
                  "picLogo", "Picture2", "picLogo", "frmIdentify"}) {
@@ -124,8 +198,12 @@ void IdentifyTest::aboutBoxShowsMemoryAndFramesTheIconOnHover()
         // A click on the panel changes nothing visible: the box stays and no timer runs.
         QTest::mouseClick(control("Picture2"), Qt::LeftButton, {}, QPoint(2, 2));
         designState = designState && !about.EffectTimer().isActive() && about.isVisible();
-        QTest::mouseClick(static_cast<QPushButton*>(control("cmdClose")), Qt::LeftButton);
+        QTest::keyClick(control("cmdClose"), Qt::Key_Return);
     });
+    StartUp(); // the About box comes after a splash
+    Form<frmIdentify>().EffectTimer_Timer();
+    Form<frmIdentify>().AbortIntroduction();
+    Form<frmIdentify>().EffectTimer_Timer();
     Form<MDIMain>().mnuHelpItem_Click(3);
 
     QCOMPARE(act.count(), 1);

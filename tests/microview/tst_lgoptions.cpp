@@ -142,7 +142,9 @@ void LGOptionsTest::okStoresRowsAndColumnsWithinTheirLimitsAndTheChosenColours()
 
     // The chooser keeps the colour it last returned, also when it is cancelled.
     bool choose = true;
+    QStringList choosers;
     ModalAnswerer answerer([&](QWidget* modal) {
+        choosers << modal->objectName() + ":" + modal->windowTitle();
         auto* chooser = static_cast<QColorDialog*>(modal);
         chooser->setCurrentColor(choose ? QColor(0, 200, 0) : QColor(9, 9, 9));
         choose ? chooser->accept() : chooser->reject();
@@ -152,6 +154,7 @@ void LGOptionsTest::okStoresRowsAndColumnsWithinTheirLimitsAndTheChosenColours()
     choose = false;
     QTest::mouseClick(control("lblColorSelection(1)"), Qt::LeftButton);
     QCOMPARE(swatch(1), Rgb::RGB(0, 200, 0));
+    QCOMPARE(choosers, QStringList(2, "CMDColors:ABC Color Selection"));
 
     type("txtNoOfRows", "3");
     type("txtNoOfColumns", " 4");

@@ -2,6 +2,7 @@
 #include "WindowChecks.h"
 
 #include "core/RunTimeError.h"
+#include "introduction/frmCollisionOptions.h"
 #include "introduction/frmIntroduction.h"
 #include "microview/frmMicroView.h"
 #include "shell/Forms.h"
@@ -15,7 +16,9 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QtTest>
 
 namespace {
@@ -29,6 +32,33 @@ QString statusText()
 {
     return Form<MDIMain>().findChild<QLabel*>("lblStatusLine")->text();
 }
+
+// Runs an action on a window at the first turn of the event loop after it shows.
+class ShownAction : public QObject
+{
+public:
+    ShownAction(const QString& name, std::function<void(QWidget*)> action) : m_name(name), m_action(std::move(action))
+    {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show && watched->objectName() == m_name) {
+            QPointer<QWidget> window = static_cast<QWidget*>(watched);
+            QTimer::singleShot(0, this, [this, window] {
+                if (window)
+                    m_action(window);
+            });
+        }
+        return false;
+    }
+
+private:
+    QString m_name;
+    std::function<void(QWidget*)> m_action;
+};
 
 } // namespace
 
@@ -48,6 +78,9 @@ private slots:
     void statusLineSpansTheFrameAndKeepsTheLastHint();
     void faultInAHandlerIsShownAndTheProgramGoesOn();
     void centreFormLeavesAMaximisedWindowAlone();
+    void childWindowsCentreAgainWhenRestored_data();
+    void childWindowsCentreAgainWhenRestored();
+    void aBoxAfterADialogClosesOutlivesTheDialog();
 };
 
 void MainFrameTest::init()
@@ -214,6 +247,75 @@ void MainFrameTest::centreFormLeavesAMaximisedWindowAlone()
     const QRect maximised = frame->geometry();
     CentreForm(&Form<frmIntroduction>());
     QCOMPARE(frame->geometry(), maximised);
+}
+
+void MainFrameTest::childWindowsCentreAgainWhenRestored_data()
+{
+    QTest::addColumn<int>("item");
+    QTest::newRow("Introduction") << 0;
+    QTest::newRow("Macroscopic View") << 1;
+    QTest::newRow("Microscopic View") << 2;
+}
+
+void MainFrameTest::childWindowsCentreAgainWhenRestored()
+{
+    // Each view centres itself whenever it is resized; maximising and restoring its
+    // child window are resizes too.
+    QFETCH(int, item);
+    MDIMain& main = Form<MDIMain>();
+    main.resize(1000, 760);
+    menuItem(QString("mnuContentsItem(%1)").arg(item))->trigger();
+    QMdiSubWindow* frame = main.mdiArea()->activeSubWindow();
+    QVERIFY(frame);
+    auto centred = [&] {
+        const QSize area = main.mdiArea()->viewport()->size();
+        return QPoint((area.width() - frame->width()) / 2, (area.height() - frame->height()) / 10);
+    };
+    QTRY_COMPARE(frame->pos(), centred());
+    frame->move(3, 4); // dragged aside: a move is no resize
+    QCOMPARE(frame->pos(), QPoint(3, 4));
+    frame->showMaximized();
+    QCOMPARE(frame->pos(), QPoint(0, 0));
+    frame->showNormal();
+    QTRY_COMPARE(frame->pos(), centred());
+    frame->showMinimized();
+    frame->showNormal();
+    QTRY_COMPARE(frame->pos(), centred());
+}
+
+void MainFrameTest::aBoxAfterADialogClosesOutlivesTheDialog()
+{
+    // "Ok" in the collision dialog with velocities that never meet, pressed as soon as
+    // the dialog shows (before the window system has made it the active window): the
+    // dialog goes, and the check that follows shows its box while the dialog's release
+    // is still pending. The box must come through that release.
+    menuItem("mnuContentsItem(0)")->trigger();
+    frmIntroduction& intro = Form<frmIntroduction>();
+    for (const auto& [name, text] : {std::pair{"txtUnit", "3"}, {"txtPage", "2"}}) {
+        auto* box = intro.findChild<QLineEdit*>(name);
+        box->selectAll();
+        QTest::keyClicks(box, text);
+    }
+    intro.findChild<QPushButton*>("cmdCommand(6)")->click();
+    ShownAction pressOk("frmCollisionOptions", [](QWidget* dialog) {
+        auto* velocity = dialog->findChild<QLineEdit*>("txtux(1)");
+        velocity->selectAll();
+        QTest::keyClicks(velocity, "100");
+        QTest::mouseClick(dialog->findChild<QPushButton*>("cmdCommand(0)"), Qt::LeftButton);
+    });
+    QString shown;
+    ModalAnswerer answer([&](QWidget* modal) {
+        auto* box = qobject_cast<QMessageBox*>(modal);
+        QVERIFY(box);
+        shown = box->windowTitle();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(box->isVisible());
+        box->button(QMessageBox::Ok)->click();
+    });
+    intro.findChild<QPushButton*>("cmdCommand(7)")->click();
+    QCOMPARE(shown, QString("Simulation Results"));
+    QVERIFY(!IsLoaded<frmCollisionOptions>());
+    QVERIFY(intro.isVisible());
 }
 
 QTEST_MAIN(MainFrameTest)
