@@ -169,6 +169,13 @@ void frmCollisionOptions::createGraphFrame()
         }
         *panels[p] = panel;
     }
+    // The side view hides both panels; this switch offers it the plastic contact,
+    // beside the graph switches, and moves with "Plastic" of the second panel.
+    chkPlastic = createCheck(fraGraphs, "chkPlastic", tr("Plastic"), 2640, 840, 1095);
+    StatusHints::install(chkPlastic, tr("Πλαστική κρούση: τα σώματα κινούνται μαζί μετά την επαφή"));
+    chkPlastic->hide();
+    connect(chkPlastic, &QCheckBox::toggled, this, [this](bool on) { OptType2[on ? 1 : 0]->setChecked(true); });
+    connect(OptType2[1], &QRadioButton::toggled, chkPlastic, &QCheckBox::setChecked);
 }
 
 void frmCollisionOptions::createVectorFrame()
@@ -178,6 +185,7 @@ void frmCollisionOptions::createVectorFrame()
     chkShowVelocities = createCheck(fraVisualisationOption, "chkShowVelocities", QStringLiteral("Velocity"), 240, 300, 1215);
     chkShowForces = createCheck(fraVisualisationOption, "chkShowForces", QStringLiteral("Force"), 1560, 300, 1215);
     chkShowMomenta = createCheck(fraVisualisationOption, "chkShowMomenta", QStringLiteral("Momentum"), 240, 690, 1815);
+    StatusHints::install(chkShowMomenta, tr("Έλεγχος απεικόνισης ορμών"));
 }
 
 void frmCollisionOptions::createModelFrame()
@@ -197,9 +205,10 @@ void frmCollisionOptions::createColorFrame()
 {
     fraColors = createFrame("fraColors", QStringLiteral("Color Selection"), 4080, 2880, 3015, 1575);
     const QStringList captions = {QStringLiteral("Body 1:"), QStringLiteral("Body 2:"), QStringLiteral("velocities:"),
-        QStringLiteral("Forces:")};
-    for (int i = 0; i < 4; ++i) {
-        const int top = 300 + i * 300;
+        QStringLiteral("Forces:"), tr("Momenta:")};
+    for (int i = 0; i < int(lblCurrentColor.size()); ++i) {
+        // Five rows share the frame's height.
+        const int top = 255 + i * 255;
         lblColorSelection[i] = new QLabel(captions[i], fraColors);
         lblColorSelection[i]->setObjectName(indexedName("lblColorSelection", i));
         FormLayout::place(lblColorSelection[i], 120, top, 1095, 255);
@@ -213,9 +222,11 @@ void frmCollisionOptions::createColorFrame()
         FormLayout::place(lblCurrentColor[i], 1620, top, 1215, 255);
 
         const QString choose = controlHint(QStringLiteral("lblColorSelection"), i);
-        StatusHints::install(lblColorSelection[i], choose);
-        StatusHints::install(cmdColorSelection[i], choose);
-        StatusHints::install(lblCurrentColor[i], controlHint(QStringLiteral("lblCurrentColor"), i));
+        const bool momenta = i == MomentumSwatch;
+        StatusHints::install(lblColorSelection[i], momenta ? tr("Επιλογή χρώματος διανυσμάτων ορμής") : choose);
+        StatusHints::install(cmdColorSelection[i], momenta ? tr("Επιλογή χρώματος διανυσμάτων ορμής") : choose);
+        StatusHints::install(lblCurrentColor[i],
+            momenta ? tr("Τρέχον χρώμα διανυσμάτων ορμής") : controlHint(QStringLiteral("lblCurrentColor"), i));
         auto handler = [this, i] { RunGuarded([this, i] { cmdColorSelection_Click(i); }); };
         connect(cmdColorSelection[i], &QPushButton::clicked, this, handler);
         onClick(lblColorSelection[i], handler);
@@ -244,7 +255,7 @@ QLineEdit*& frmCollisionOptions::field(int kind, int Index)
     return (*fields[kind])[Index];
 }
 
-void frmCollisionOptions::showColors(const std::array<float, 4>& stored)
+void frmCollisionOptions::showColors(const std::array<float, 5>& stored)
 {
     const int32_t background = pictureBackground();
     for (int i = 0; i < int(stored.size()); ++i)
@@ -282,10 +293,17 @@ void frmCollisionOptions::ShowCurrentValues()
     chkShowForces->setChecked(setup.ShowForces == 1);
     if (setup.ForceModel >= 0 && setup.ForceModel < int16_t(optModel.size()))
         optModel[setup.ForceModel]->setChecked(true);
-    showColors({setup.BodyColor[1], setup.BodyColor[2], setup.VelocityColor, setup.ForceColor});
+    showColors({setup.BodyColor[1], setup.BodyColor[2], setup.VelocityColor, setup.ForceColor, setup.MomentumColor});
     InvalidFields.clear();
-    OptType1[0]->setChecked(true);
-    OptType2[0]->setChecked(true);
+    showCollisionKind(setup.ShowMomenta, setup.CollisionDirection, setup.CollisionElasticity);
+}
+
+void frmCollisionOptions::showCollisionKind(int16_t momenta, CollisionSetup::Direction direction,
+    CollisionSetup::Elasticity elasticity)
+{
+    chkShowMomenta->setChecked(momenta == 1);
+    OptType1[direction == CollisionSetup::Direction::Oblique ? 1 : 0]->setChecked(true);
+    OptType2[elasticity == CollisionSetup::Elasticity::Plastic ? 1 : 0]->setChecked(true);
 }
 
 void frmCollisionOptions::ArrangeForPage()
@@ -304,6 +322,7 @@ void frmCollisionOptions::ArrangeForPage()
             }
         picCollType1->hide();
         picCollType2->hide();
+        chkPlastic->show();
     }
 }
 
@@ -363,6 +382,12 @@ void frmCollisionOptions::AcceptValues()
         }
     setup.VelocityColor = storedColor(2, background);
     setup.ForceColor = storedColor(3, background);
+    setup.MomentumColor = storedColor(MomentumSwatch, background);
+    setup.ShowMomenta = chkShowMomenta->isChecked() ? 1 : 0;
+    setup.CollisionDirection = OptType1[1]->isChecked() ? CollisionSetup::Direction::Oblique
+                                                        : CollisionSetup::Direction::Central;
+    setup.CollisionElasticity = OptType2[1]->isChecked() ? CollisionSetup::Elasticity::Plastic
+                                                         : CollisionSetup::Elasticity::Elastic;
 }
 
 void frmCollisionOptions::ShowDefaultValues()
@@ -379,7 +404,8 @@ void frmCollisionOptions::ShowDefaultValues()
     optModel[0]->setChecked(true);
     const CollisionSetup& setup = m_setup;
     showColors({setup.DefaultBodyColor[1], setup.DefaultBodyColor[2], setup.DefaultVelocityColor,
-        setup.DefaultForceColor});
+        setup.DefaultForceColor, setup.DefaultMomentumColor});
+    showCollisionKind(0, CollisionSetup::Direction::Central, CollisionSetup::Elasticity::Elastic);
 }
 
 void frmCollisionOptions::cmdCommand_Click(int Index)

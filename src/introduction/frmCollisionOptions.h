@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BodyParameterHints.h"
+#include "model/CollisionSetup.h"
 #include "widgets/ColorChooser.h"
 
 #include <QDialog>
@@ -10,7 +11,6 @@
 #include <set>
 #include <utility>
 
-class CollisionSetup;
 class QCheckBox;
 class QGroupBox;
 class QLabel;
@@ -82,9 +82,13 @@ private:
     void Form_Resize();
 
     // The experiment keeps its colours as drawing colours, combined by exclusive-or
-    // with the picture's background; the swatches show the colours as seen. The four
-    // swatches are body 1, body 2, velocities and forces.
-    void showColors(const std::array<float, 4>& stored);
+    // with the picture's background; the swatches show the colours as seen. The five
+    // swatches are body 1, body 2, velocities, forces and momenta.
+    void showColors(const std::array<float, 5>& stored);
+    static constexpr int MomentumSwatch = 4;
+    // The momentum switch and the two collision types.
+    void showCollisionKind(int16_t momenta, CollisionSetup::Direction direction,
+        CollisionSetup::Elasticity elasticity);
     float storedColor(int Index, int32_t background) const;
 
     QLineEdit*& field(int kind, int Index);
@@ -105,6 +109,7 @@ private:
     QWidget* picCollType2 = nullptr;
     std::array<QRadioButton*, 2> OptType1{};
     std::array<QRadioButton*, 2> OptType2{};
+    QCheckBox* chkPlastic = nullptr;
 
     QGroupBox* fraVisualisationOption = nullptr;
     QCheckBox* chkShowVelocities = nullptr;
@@ -115,9 +120,9 @@ private:
     std::array<QRadioButton*, 3> optModel{};
 
     QGroupBox* fraColors = nullptr;
-    std::array<QLabel*, 4> lblColorSelection{};
-    std::array<QPushButton*, 4> cmdColorSelection{};
-    std::array<QLabel*, 4> lblCurrentColor{};
+    std::array<QLabel*, 5> lblColorSelection{};
+    std::array<QPushButton*, 5> cmdColorSelection{};
+    std::array<QLabel*, 5> lblCurrentColor{};
 
     std::array<QPushButton*, 3> cmdCommand{};
     ColorChooser CMDcolors;

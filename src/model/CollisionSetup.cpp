@@ -23,6 +23,8 @@ void CollisionSetup::resetDefaults(int32_t background)
     // The velocity arrows take body 2's colour with its blue turned over.
     DefaultVelocityColor = float(Numeric::toInt32(DefaultBodyColor[2]) ^ Rgb::RGB(0, 0, 255));
     DefaultForceColor = float(Rgb::RGB(255, 0, 0) ^ background);
+    // A dark violet that no other default uses and that stands out on white.
+    DefaultMomentumColor = float(Rgb::RGB(128, 0, 160) ^ background);
 
     Mass = {10, 15};
     Radius = {10, 10};
@@ -38,6 +40,9 @@ void CollisionSetup::resetDefaults(int32_t background)
     GraphForce = 1;
     ForceModel = LinearModel;
     ProportionalGraphs = 0;
+    ShowMomenta = 0;
+    CollisionDirection = Direction::Central;
+    CollisionElasticity = Elasticity::Elastic;
 }
 
 void CollisionSetup::useDefaultColours()
@@ -45,4 +50,5 @@ void CollisionSetup::useDefaultColours()
     BodyColor = DefaultBodyColor;
     VelocityColor = DefaultVelocityColor;
     ForceColor = DefaultForceColor;
+    MomentumColor = DefaultMomentumColor;
 }
