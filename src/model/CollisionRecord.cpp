@@ -34,6 +34,10 @@ std::vector<std::string> CollisionRecord::Header() const
 
 void CollisionRecord::Add(CollisionState& state)
 {
+    // Reading a position inside the contact moves the point the motion after it
+    // continues from: the record leaves that point where the run put it.
+    const auto contactX = state.ContactX;
+    const auto contactY = state.ContactY;
     const float t = state.SimulationTime;
     std::vector<double> row = {t};
     for (int16_t body = 1; body <= 2; ++body)
@@ -43,4 +47,14 @@ void CollisionRecord::Add(CollisionState& state)
                 row.push_back(state.BodyState(CollisionState::ComponentY, quantity, body, t));
         }
     m_rows.push_back(row);
+    state.ContactX = contactX;
+    state.ContactY = contactY;
+}
+
+CsvTable CollisionRecord::Table() const
+{
+    CsvTable table(Header());
+    for (const std::vector<double>& row : m_rows)
+        table.AddRow(row);
+    return table;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/CsvTable.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -16,7 +18,7 @@ public:
     // Forgets the last run and starts one on a page (1 from above, 2 side view).
     void Start(int16_t page);
 
-    // Adds the row of the state's present clock.
+    // Adds the row of the state's present clock, leaving the state as it was.
     void Add(CollisionState& state);
 
     // True when no run has been recorded.
@@ -24,6 +26,9 @@ public:
 
     // The column names, in the order of the rows.
     std::vector<std::string> Header() const;
+
+    // The whole run as a table for a spreadsheet.
+    CsvTable Table() const;
 
     // The rows recorded, oldest first.
     const std::vector<std::vector<double>>& Rows() const { return m_rows; }
