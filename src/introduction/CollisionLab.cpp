@@ -3,6 +3,9 @@
 #include "ExperimentView.h"
 #include "ResultsPanel.h"
 
+#include "core/Numeric.h"
+#include "model/FluidParameters.h"
+#include "model/LiquidMolecules.h"
 #include "widgets/CanvasWidget.h"
 #include "widgets/FileExport.h"
 #include "widgets/FormLayout.h"
@@ -49,13 +52,24 @@ CollisionLab::CollisionLab(QWidget* form, CanvasWidget* picture, ExperimentView&
     });
 }
 
-void CollisionLab::PageShown(bool collisionPage)
+void CollisionLab::PageShown(bool collisionPage, bool liquidPage)
 {
     m_collisionPage = collisionPage;
-    cmdResults->setVisible(collisionPage);
-    if (!collisionPage)
+    m_liquidPage = liquidPage;
+    cmdResults->setText(liquidPage ? tr("Counts") : tr("Results"));
+    cmdResults->setVisible(collisionPage || liquidPage);
+    if (!collisionPage && !liquidPage)
         cmdResults->setChecked(false);
+    if (collisionPage)
+        m_panel->ShowCollisionPanel();
     RunStarted();
+}
+
+void CollisionLab::LiquidChanged(const LiquidMolecules& molecules, const FluidParameters& fluid)
+{
+    if (m_liquidPage)
+        m_panel->ShowCounts(molecules.HalfCounts(), {Numeric::toInt32(fluid.FluidGroupColor[1]),
+                                                     Numeric::toInt32(fluid.FluidGroupColor[2])});
 }
 
 void CollisionLab::RunStarted()

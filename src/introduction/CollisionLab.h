@@ -3,6 +3,8 @@
 #include <QObject>
 
 class CanvasWidget;
+struct FluidParameters;
+class LiquidMolecules;
 class ExperimentView;
 class QPushButton;
 class QWidget;
@@ -12,7 +14,9 @@ class ResultsPanel;
 // button that opens a panel beside the picture with the momentum and energy of the
 // last run, and saving the picture (PNG) and the run's data (CSV) from that panel
 // or from the keyboard (Ctrl+Shift+S, Ctrl+S). The window grows to the right while
-// the panel is open; nothing of it shows on the other pages.
+// the panel is open. On the liquid pages the same button ("Counts") opens the
+// panel with the molecules of each colour in either half, updated every tick.
+// Nothing of it shows on the other pages.
 class CollisionLab : public QObject
 {
     Q_OBJECT
@@ -23,9 +27,11 @@ public:
     CollisionLab(QWidget* form, CanvasWidget* picture, ExperimentView& experiment, int clientWidth,
                  int clientHeight);
 
-    // A page has been shown: the button and shortcuts serve collision pages only;
-    // the figures of an earlier run are gone.
-    void PageShown(bool collisionPage);
+    // A page has been shown: the button serves collision and liquid pages, the
+    // shortcuts collision pages only; the figures of an earlier run are gone.
+    void PageShown(bool collisionPage, bool liquidPage);
+    // The liquid page's molecules have moved (or been laid out).
+    void LiquidChanged(const LiquidMolecules& molecules, const FluidParameters& fluid);
     // A run starts or has ended.
     void RunStarted();
     void RunFinished();
@@ -48,5 +54,6 @@ private:
     QPushButton* cmdResults = nullptr;
     ResultsPanel* m_panel = nullptr;
     bool m_collisionPage = false;
+    bool m_liquidPage = false;
     bool m_runShown = false;
 };

@@ -1,5 +1,6 @@
 #include "ResultsPanel.h"
 
+#include "canvas/Rgb.h"
 #include "model/CollisionBalance.h"
 #include "widgets/FormLayout.h"
 
@@ -73,4 +74,28 @@ void ResultsPanel::ClearFigures()
 QString ResultsPanel::FiguresText() const
 {
     return lblFigures->text();
+}
+
+void ResultsPanel::ShowCounts(const std::array<std::array<int, 2>, 2>& counts, const std::array<int32_t, 2>& colours)
+{
+    setTitle(tr("Molecules in each half"));
+    cmdSavePicture->hide();
+    cmdSaveData->hide();
+    QString html = QStringLiteral("<table cellspacing=0 cellpadding=3><tr><th></th><th align=right>%1</th>"
+                                  "<th align=right>%2</th></tr>")
+                       .arg(tr("left"), tr("right"));
+    for (size_t group = 0; group < 2; ++group)
+        html += QStringLiteral("<tr><td><font color=\"%1\">&#9632;</font> %2</td><td align=right>%3</td>"
+                               "<td align=right>%4</td></tr>")
+                    .arg(Rgb::toQColor(colours[group]).name(), tr("group %1").arg(group + 1))
+                    .arg(counts[group][0])
+                    .arg(counts[group][1]);
+    lblFigures->setText(html + QStringLiteral("</table>"));
+}
+
+void ResultsPanel::ShowCollisionPanel()
+{
+    setTitle(tr("Momentum and energy"));
+    cmdSavePicture->show();
+    cmdSaveData->show();
 }

@@ -350,10 +350,11 @@ void frmIntroduction::ShowPage()
 {
     txtIntro->setPlainText(m_book.PageTitle(m_CurrentUnit, m_CurrentPage));
     picIntroduction->canvas().Cls();
-    m_lab->PageShown(onCollisionPage());
+    m_lab->PageShown(onCollisionPage(), onLiquidPage());
     if (onLiquidPage()) {
         fraDraw->setTitle(QString());
         m_liquid->PrepareLiquidPage(m_CurrentPage);
+        m_lab->LiquidChanged(m_liquid->Molecules(), m_fluid);
     } else if (onCollisionPage()) {
         ShowCollisionPage();
     }
@@ -405,6 +406,7 @@ void frmIntroduction::TickPage()
         }
     } else if (onLiquidPage()) {
         m_liquid->Tick();
+        m_lab->LiquidChanged(m_liquid->Molecules(), m_fluid);
     }
 }
 
