@@ -46,10 +46,14 @@ void CollisionScene::ComputeViewport(const Canvas& canvas, const CollisionSetup&
     const float ymax = LargerOf(LargerOf(setup.Y[1] + R[1], setup.Y[2] + R[2]),
                                 LargerOf(state.EndY[1] + R[1], state.EndY[2] + R[2]));
 
-    ScaleXFactor = static_cast<float>(Numeric::divide(canvas.ScaleWidth(), double(xmax) - xmin));
-    ScaleXOffset = canvas.ScaleLeft() - ScaleXFactor * xmin;
-    ScaleYFactor = static_cast<float>(Numeric::divide(canvas.ScaleHeight(), double(ymin) - ymax));
-    ScaleYOffset = canvas.ScaleTop() - ScaleYFactor * ymax;
+    if (page == AboveView && setup.CollisionDirection == CollisionSetup::Direction::Oblique) {
+        SameScaleViewport(canvas, xmin, xmax, ymin, ymax);
+    } else {
+        ScaleXFactor = static_cast<float>(Numeric::divide(canvas.ScaleWidth(), double(xmax) - xmin));
+        ScaleXOffset = canvas.ScaleLeft() - ScaleXFactor * xmin;
+        ScaleYFactor = static_cast<float>(Numeric::divide(canvas.ScaleHeight(), double(ymin) - ymax));
+        ScaleYOffset = canvas.ScaleTop() - ScaleYFactor * ymax;
+    }
 
     for (int16_t i = 1; i <= 2; ++i) {
         BodyScreenX[i] = ScreenX(setup.X[i]);
@@ -57,6 +61,20 @@ void CollisionScene::ComputeViewport(const Canvas& canvas, const CollisionSetup&
         // The side view's bodies rest on the ground.
         BodyScreenY[i] = page == SideView ? GroundTop - BodyScreenRadius[i] : ScreenY(setup.Y[i]);
     }
+}
+
+void CollisionScene::SameScaleViewport(const Canvas& canvas, float xmin, float xmax, float ymin, float ymax)
+{
+    // A metre is as long across as it is up, so that discs that touch are seen to
+    // touch; the paths sit in the middle of the picture.
+    const double width = double(xmax) - xmin;
+    const double height = double(ymax) - ymin;
+    const double factor = std::min(Numeric::divide(canvas.ScaleWidth(), width),
+                                   Numeric::divide(canvas.ScaleHeight(), height));
+    ScaleXFactor = static_cast<float>(factor);
+    ScaleYFactor = static_cast<float>(-factor);
+    ScaleXOffset = static_cast<float>(canvas.ScaleLeft() + (canvas.ScaleWidth() - factor * width) / 2 - factor * xmin);
+    ScaleYOffset = static_cast<float>(canvas.ScaleTop() + (canvas.ScaleHeight() - factor * height) / 2 + factor * ymax);
 }
 
 float CollisionScene::ScreenX(float x) const
@@ -134,6 +152,26 @@ void CollisionScene::DrawVectors(Canvas& canvas, const CollisionSetup& setup, Co
         const bool spike = setup.ForceModel == CollisionSetup::LinearModel;
         const float xDirection = spike && std::cos(double(state.LineAngle)) < 0 ? -1.0f : 1.0f;
         pair(CollisionState::Force, ForceScale(state), setup.ForceColor, xDirection);
+    }
+    if (setup.ShowMomenta == 1)
+        DrawMomenta(canvas, setup, state, page);
+}
+
+void CollisionScene::DrawMomenta(Canvas& canvas, const CollisionSetup& setup, CollisionState& state, int16_t page)
+{
+    // A momentum points the way its velocity does: the arrows start a little off the
+    // centre so that the two stay apart where they overlap.
+    const float t = state.SimulationTime;
+    for (int16_t body = 1; body <= 2; ++body) {
+        const float m = setup.Mass[body];
+        const float px = m * state.BodyState(CollisionState::ComponentX, CollisionState::Velocity, body, t);
+        const float py = page == AboveView
+                             ? m * state.BodyState(CollisionState::ComponentY, CollisionState::Velocity, body, t)
+                             : 0.0f;
+        DrawArrow(canvas, 1, BodyScreenX[body], BodyScreenY[body] + MomentumOffset, BodyScreenRadius[body],
+                  state.MaxMomentum, px, setup.MomentumColor);
+        DrawArrow(canvas, 2, BodyScreenX[body] + MomentumOffset, BodyScreenY[body], BodyScreenRadius[body],
+                  state.MaxMomentum, py, setup.MomentumColor);
     }
 }
 

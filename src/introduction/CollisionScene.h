@@ -20,6 +20,8 @@ public:
     // of each barb.
     static constexpr float ArrowLength = 250.0f;
     static constexpr float BarbLength = 50.0f;
+    // How far a momentum arrow runs beside the velocity arrow of its body.
+    static constexpr float MomentumOffset = 45.0f;
     // A value this share of the scale or less is rounding, not motion or force.
     static constexpr float NegligibleShare = 1e-5f;
 
@@ -31,6 +33,9 @@ public:
     // start to their ends at 2 t_c, and the bodies' places at the start.
     void ComputeViewport(const Canvas& canvas, const CollisionSetup& setup,
                          const CollisionState& state, int16_t page);
+
+    // One scale for both axes, the box xmin..xmax, ymin..ymax centred in the picture.
+    void SameScaleViewport(const Canvas& canvas, float xmin, float xmax, float ymin, float ymax);
 
     // World x and y to picture coordinates.
     float ScreenX(float x) const;
@@ -55,6 +60,10 @@ public:
     // each pointing the way its body moves or is pushed.
     void DrawVectors(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
                      int16_t page);
+
+    // The momentum arrows of both bodies (y components from above only), the largest
+    // momentum magnitude of the run ArrowLength long.
+    void DrawMomenta(Canvas& canvas, const CollisionSetup& setup, CollisionState& state, int16_t page);
 
     // The arrows of one quantity for both bodies: x components, and on page 1 the
     // y components; the longest possible arrow belongs to the value of scale.

@@ -72,6 +72,8 @@ void ExperimentView::StartCollisionRun()
         m_graphs.GraphRange(m_setup, m_state, g, m_graphs.GraphQuantity[g], 0, RunEnd());
     m_graphs.StartGraphClocks(m_state);
     m_graphs.DrawGraphFrames(m_canvas, m_graphs.GraphCount);
+    m_record.Start(m_page);
+    m_record.Add(m_state);
 }
 
 bool ExperimentView::Tick()
@@ -91,6 +93,7 @@ bool ExperimentView::Tick()
     }
     m_scene.DrawBodies(m_canvas, m_setup, m_state, m_page);
     m_graphs.DrawGraphStep(m_canvas, m_setup, m_state);
+    m_record.Add(m_state);
     if (RunEnd() <= m_state.SimulationTime) {
         m_state.SimulationTime = 0;
         return true;

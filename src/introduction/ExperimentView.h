@@ -3,6 +3,8 @@
 #include "CollisionGraphs.h"
 #include "CollisionScene.h"
 
+#include "model/CollisionBalance.h"
+#include "model/CollisionRecord.h"
 #include "model/CollisionState.h"
 
 #include <QString>
@@ -71,6 +73,12 @@ public:
     // The page set up last (1 or 2).
     int16_t Page() const { return m_page; }
 
+    // Every step of the last run, from its start.
+    const CollisionRecord& Record() const { return m_record; }
+
+    // Momentum and kinetic energy before and after the contact of the page set up.
+    CollisionBalance Balance() const { return CollisionBalance(m_setup, m_state, m_page); }
+
     // The parts the view drives.
     CollisionState& State() { return m_state; }
     CollisionScene& Scene() { return m_scene; }
@@ -85,5 +93,6 @@ private:
     CollisionState m_state;
     CollisionScene m_scene;
     CollisionGraphs m_graphs;
+    CollisionRecord m_record;
     int16_t m_page = 1;
 };

@@ -174,6 +174,13 @@ void frmCollisionOptions::createGraphFrame()
         }
         *panels[p] = panel;
     }
+    // The side view hides both panels; this switch offers it the plastic contact,
+    // beside the graph switches, and moves with "Plastic" of the second panel.
+    chkPlastic = createCheck(fraGraphs, "chkPlastic", tr("Plastic"), 2640, 840, 1095);
+    StatusHints::install(chkPlastic, tr("Πλαστική κρούση: τα σώματα κινούνται μαζί μετά την επαφή"));
+    chkPlastic->hide();
+    connect(chkPlastic, &QCheckBox::toggled, this, [this](bool on) { OptType2[on ? 1 : 0]->setChecked(true); });
+    connect(OptType2[1], &QRadioButton::toggled, chkPlastic, &QCheckBox::setChecked);
 }
 
 void frmCollisionOptions::createVectorFrame()
@@ -183,6 +190,7 @@ void frmCollisionOptions::createVectorFrame()
     chkShowVelocities = createCheck(fraVisualisationOption, "chkShowVelocities", tr("Velocity"), 240, 300, 1215);
     chkShowForces = createCheck(fraVisualisationOption, "chkShowForces", tr("Force"), 1560, 300, 1215);
     chkShowMomenta = createCheck(fraVisualisationOption, "chkShowMomenta", tr("Momentum"), 240, 690, 1815);
+    StatusHints::install(chkShowMomenta, tr("Έλεγχος απεικόνισης ορμών"));
 }
 
 void frmCollisionOptions::createModelFrame()
@@ -201,10 +209,10 @@ void frmCollisionOptions::createModelFrame()
 void frmCollisionOptions::createColorFrame()
 {
     fraColors = createFrame("fraColors", tr("Color Selection"), 4080, 2880, 3015, 1575);
-    const QStringList captions = {tr("Body 1:"), tr("Body 2:"), tr("velocities:"),
-        tr("Forces:")};
-    for (int i = 0; i < 4; ++i) {
-        const int top = 300 + i * 300;
+    const QStringList captions = {tr("Body 1:"), tr("Body 2:"), tr("velocities:"), tr("Forces:"), tr("Momenta:")};
+    for (int i = 0; i < int(lblCurrentColor.size()); ++i) {
+        // Five rows share the frame's height.
+        const int top = 255 + i * 255;
         lblColorSelection[i] = new QLabel(captions[i], fraColors);
         lblColorSelection[i]->setObjectName(indexedName("lblColorSelection", i));
         FormLayout::place(lblColorSelection[i], 120, top, 1095, 255);
@@ -217,10 +225,13 @@ void frmCollisionOptions::createColorFrame()
         lblCurrentColor[i]->setFrameShape(QFrame::Box);
         FormLayout::place(lblCurrentColor[i], 1620, top, 1215, 255);
 
-        const QString choose = controlHint(QStringLiteral("lblColorSelection"), i);
+        const bool momenta = i == MomentumSwatch;
+        const QString choose = momenta ? tr("Επιλογή χρώματος διανυσμάτων ορμής")
+                                       : controlHint(QStringLiteral("lblColorSelection"), i);
         StatusHints::install(lblColorSelection[i], choose);
         StatusHints::install(cmdColorSelection[i], choose);
-        StatusHints::install(lblCurrentColor[i], controlHint(QStringLiteral("lblCurrentColor"), i));
+        StatusHints::install(lblCurrentColor[i],
+            momenta ? tr("Τρέχον χρώμα διανυσμάτων ορμής") : controlHint(QStringLiteral("lblCurrentColor"), i));
         addColorChoice(cmdColorSelection[i], lblColorSelection[i], lblCurrentColor[i]);
     }
 }
@@ -239,7 +250,7 @@ QLineEdit*& frmCollisionOptions::field(int kind, int Index)
     return (*fields[kind])[Index];
 }
 
-void frmCollisionOptions::showColors(const std::array<float, 4>& stored)
+void frmCollisionOptions::showColors(const std::array<float, 5>& stored)
 {
     const int32_t background = pictureBackground();
     for (int i = 0; i < int(stored.size()); ++i)
@@ -287,10 +298,17 @@ void frmCollisionOptions::ShowCurrentValues()
     const CollisionSetup& setup = m_setup;
     showBodies(setup);
     showSwitches(setup);
-    showColors({setup.BodyColor[1], setup.BodyColor[2], setup.VelocityColor, setup.ForceColor});
+    showColors({setup.BodyColor[1], setup.BodyColor[2], setup.VelocityColor, setup.ForceColor, setup.MomentumColor});
     InvalidFields.clear();
-    OptType1[0]->setChecked(true);
-    OptType2[0]->setChecked(true);
+    showCollisionKind(setup.ShowMomenta, setup.CollisionDirection, setup.CollisionElasticity);
+}
+
+void frmCollisionOptions::showCollisionKind(int16_t momenta, CollisionSetup::Direction direction,
+    CollisionSetup::Elasticity elasticity)
+{
+    chkShowMomenta->setChecked(momenta == 1);
+    OptType1[direction == CollisionSetup::Direction::Oblique ? 1 : 0]->setChecked(true);
+    OptType2[elasticity == CollisionSetup::Elasticity::Plastic ? 1 : 0]->setChecked(true);
 }
 
 void frmCollisionOptions::ArrangeForPage()
@@ -309,6 +327,7 @@ void frmCollisionOptions::ArrangeForPage()
             }
         picCollType1->hide();
         picCollType2->hide();
+        chkPlastic->show();
     }
 }
 
@@ -365,6 +384,12 @@ void frmCollisionOptions::AcceptValues()
         }
     setup.VelocityColor = storedColor(2, background);
     setup.ForceColor = storedColor(3, background);
+    setup.MomentumColor = storedColor(MomentumSwatch, background);
+    setup.ShowMomenta = chkShowMomenta->isChecked() ? 1 : 0;
+    setup.CollisionDirection = OptType1[1]->isChecked() ? CollisionSetup::Direction::Oblique
+                                                        : CollisionSetup::Direction::Central;
+    setup.CollisionElasticity = OptType2[1]->isChecked() ? CollisionSetup::Elasticity::Plastic
+                                                         : CollisionSetup::Elasticity::Elastic;
 }
 
 void frmCollisionOptions::ShowDefaultValues()
@@ -376,5 +401,6 @@ void frmCollisionOptions::ShowDefaultValues()
     showSwitches(defaults);
     const CollisionSetup& setup = m_setup;
     showColors({setup.DefaultBodyColor[1], setup.DefaultBodyColor[2], setup.DefaultVelocityColor,
-        setup.DefaultForceColor});
+        setup.DefaultForceColor, setup.DefaultMomentumColor});
+    showCollisionKind(0, CollisionSetup::Direction::Central, CollisionSetup::Elasticity::Elastic);
 }

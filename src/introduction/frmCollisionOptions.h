@@ -1,13 +1,13 @@
 #pragma once
 
 #include "BodyParameterHints.h"
+#include "model/CollisionSetup.h"
 #include "widgets/ColorChooser.h"
 #include "widgets/ParameterDialog.h"
 
 #include <array>
 #include <cstdint>
 
-class CollisionSetup;
 class QCheckBox;
 class QGroupBox;
 class QLabel;
@@ -70,9 +70,13 @@ private:
     void writeField(int kind, int Index, const QString& text);
 
     // The experiment keeps its colours as drawing colours, combined by exclusive-or
-    // with the picture's background; the swatches show the colours as seen. The four
-    // swatches are body 1, body 2, velocities and forces.
-    void showColors(const std::array<float, 4>& stored);
+    // with the picture's background; the swatches show the colours as seen. The five
+    // swatches are body 1, body 2, velocities, forces and momenta.
+    void showColors(const std::array<float, 5>& stored);
+    static constexpr int MomentumSwatch = 4;
+    // The momentum switch and the two collision types.
+    void showCollisionKind(int16_t momenta, CollisionSetup::Direction direction,
+        CollisionSetup::Elasticity elasticity);
     float storedColor(int Index, int32_t background) const;
 
     QLineEdit*& field(int kind, int Index);
@@ -93,6 +97,7 @@ private:
     QWidget* picCollType2 = nullptr;
     std::array<QRadioButton*, 2> OptType1{};
     std::array<QRadioButton*, 2> OptType2{};
+    QCheckBox* chkPlastic = nullptr;
 
     QGroupBox* fraVisualisationOption = nullptr;
     QCheckBox* chkShowVelocities = nullptr;
@@ -103,9 +108,9 @@ private:
     std::array<QRadioButton*, 3> optModel{};
 
     QGroupBox* fraColors = nullptr;
-    std::array<QLabel*, 4> lblColorSelection{};
-    std::array<QPushButton*, 4> cmdColorSelection{};
-    std::array<QLabel*, 4> lblCurrentColor{};
+    std::array<QLabel*, 5> lblColorSelection{};
+    std::array<QPushButton*, 5> cmdColorSelection{};
+    std::array<QLabel*, 5> lblCurrentColor{};
 
     ColorChooser CMDcolors{QStringLiteral("CMDcolors")};
 

@@ -1,5 +1,6 @@
 #include "frmIntroduction.h"
 
+#include "CollisionLab.h"
 #include "RunControl.h"
 #include "frmCollisionOptions.h"
 
@@ -89,6 +90,7 @@ void frmIntroduction::createControls()
     });
     m_experiment = std::make_unique<ExperimentView>(canvas, m_setup);
     m_liquid = std::make_unique<LiquidPage>(canvas, m_fluid);
+    m_lab = new CollisionLab(this, picIntroduction, *m_experiment, ClientWidth, ClientHeight);
 
     txtIntro = new QPlainTextEdit(this);
     txtIntro->setObjectName("txtIntro");
@@ -351,9 +353,11 @@ void frmIntroduction::ShowPage()
 {
     txtIntro->setPlainText(m_book.PageTitle(m_CurrentUnit, m_CurrentPage));
     picIntroduction->canvas().Cls();
+    m_lab->PageShown(onCollisionPage(), onLiquidPage());
     if (onLiquidPage()) {
         fraDraw->setTitle(QString());
         m_liquid->PrepareLiquidPage(m_CurrentPage);
+        m_lab->LiquidChanged(m_liquid->Molecules(), m_fluid);
     } else if (onCollisionPage()) {
         ShowCollisionPage();
     }
@@ -389,6 +393,7 @@ void frmIntroduction::StartSimulation()
     m_experiment->ClearZoom();
     if (onCollisionPage()) {
         m_experiment->StartCollisionRun();
+        m_lab->RunStarted();
         m_run->StartTimer();
     } else if (onLiquidPage()) {
         m_run->StartLiquidRun();
@@ -398,10 +403,13 @@ void frmIntroduction::StartSimulation()
 void frmIntroduction::TickPage()
 {
     if (onCollisionPage()) {
-        if (m_experiment->Tick())
+        if (m_experiment->Tick()) {
             m_run->StopSimulation();
+            m_lab->RunFinished();
+        }
     } else if (onLiquidPage()) {
         m_liquid->Tick();
+        m_lab->LiquidChanged(m_liquid->Molecules(), m_fluid);
     }
 }
 

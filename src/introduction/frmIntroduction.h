@@ -11,6 +11,7 @@
 #include <memory>
 
 class CanvasWidget;
+class CollisionLab;
 class CollisionSetup;
 struct FluidParameters;
 class QGroupBox;
@@ -73,6 +74,7 @@ public:
     ExperimentView& Experiment() { return *m_experiment; }
     LiquidPage& Liquid() { return *m_liquid; }
     RunControl& Run() { return *m_run; }
+    CollisionLab& Lab() { return *m_lab; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -130,6 +132,7 @@ private:
     std::unique_ptr<ExperimentView> m_experiment;
     std::unique_ptr<LiquidPage> m_liquid;
     RunControl* m_run = nullptr;
+    CollisionLab* m_lab = nullptr;
     QWidget* m_watchedFrame = nullptr;
 
     int16_t m_CurrentUnit = 1;

@@ -50,6 +50,10 @@ ForceReadout ForceStatistics::UpdateForceIndicators(float Fleft, float Fright, f
     readout.V = static_cast<float>(m_SumBottom + m_SumTop);
     readout.MeanHorizontal = mean("<Fhorizontal> = ", readout.H);
     readout.MeanVertical = mean("<Fvertical> = ", readout.V);
+    if (m_record.RowCount() < MaxRecordedTicks) {
+        const double ticks = static_cast<double>(m_TickCount);
+        m_record.AddRow({ticks, Fleft, Fright, Ftop, m_SumLeft / ticks, m_SumRight / ticks, m_SumTop / ticks});
+    }
     return readout;
 }
 
@@ -60,6 +64,7 @@ void ForceStatistics::InitialiseCounters()
     m_SumRight = 0;
     m_SumTop = 0;
     m_SumBottom = 0;
+    m_record.Clear();
 }
 
 QString ForceStatistics::mean(const char* prefix, double sum) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/CsvTable.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -43,6 +45,11 @@ public:
     // decimal separator, rounded to two decimals, no digit grouping.
     static QString FormatForce(double value);
 
+    // Every tick since the last reset: tick number, current and mean force of each
+    // wall; the first MaxRecordedTicks ticks of a very long run.
+    const CsvTable& Record() const { return m_record; }
+    static constexpr std::size_t MaxRecordedTicks = 1000000;
+
 private:
     QString mean(const char* prefix, double sum) const;
 
@@ -51,4 +58,5 @@ private:
     double m_SumRight = 0;
     double m_SumTop = 0;
     double m_SumBottom = 0;
+    CsvTable m_record{{"tick", "Fleft", "Fright", "Ftop", "<Fleft>", "<Fright>", "<Ftop>"}};
 };

@@ -1,5 +1,6 @@
 #include "frmMicroView.h"
 
+#include "MicroViewExport.h"
 #include "TickDriver.h"
 
 #include "widgets/CanvasWidget.h"
@@ -52,6 +53,7 @@ frmMicroView::frmMicroView()
     buildControls(this);
     SimulationTimer = new TickDriver([this] { tick(); }, this);
     connectControls();
+    new MicroViewExport(this, m_statistics);
     RunGuarded([this] { InitialiseProgram(); });
 }
 

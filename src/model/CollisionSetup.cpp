@@ -22,6 +22,8 @@ void CollisionSetup::makeDefaultColours(int32_t background)
     // The velocity arrows take body 2's colour with its blue turned over.
     DefaultVelocityColor = float(Numeric::toInt32(DefaultBodyColor[2]) ^ Rgb::RGB(0, 0, 255));
     DefaultForceColor = float(Rgb::RGB(255, 0, 0) ^ background);
+    // A dark violet that no other default uses and that stands out on white.
+    DefaultMomentumColor = float(Rgb::RGB(128, 0, 160) ^ background);
 }
 
 void CollisionSetup::resetDefaults(int32_t background)
@@ -30,6 +32,7 @@ void CollisionSetup::resetDefaults(int32_t background)
     defaults.BodyColor = BodyColor;
     defaults.VelocityColor = VelocityColor;
     defaults.ForceColor = ForceColor;
+    defaults.MomentumColor = MomentumColor;
     defaults.Page = Page;
     defaults.makeDefaultColours(background);
     *this = defaults;
@@ -40,4 +43,5 @@ void CollisionSetup::useDefaultColours()
     BodyColor = DefaultBodyColor;
     VelocityColor = DefaultVelocityColor;
     ForceColor = DefaultForceColor;
+    MomentumColor = DefaultMomentumColor;
 }

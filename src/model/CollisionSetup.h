@@ -12,6 +12,15 @@
 class CollisionSetup
 {
 public:
+    // Where the line of centres is taken: between the starting centres
+    // ("Central"), or between the centres at the moment the discs touch
+    // ("Πλάγια", oblique; the view from above only).
+    enum class Direction : int16_t { Central = 0, Oblique = 1 };
+    // What the contact does along the line of centres: exchange the motion
+    // keeping the kinetic energy ("Elastic"), or leave both bodies with their
+    // common velocity ("Plastic").
+    enum class Elasticity : int16_t { Elastic = 0, Plastic = 1 };
+
     // The force models of the contact.
     static constexpr int16_t LinearModel = 0;        // "Linear Model": an instant exchange
     static constexpr int16_t ContinuousVelocity = 1; // "u=f(t), continuous": constant force
@@ -48,6 +57,8 @@ public:
     CollisionArray<float, 2> DefaultBodyColor;
     float DefaultVelocityColor = 0;
     float DefaultForceColor = 0;
+    float MomentumColor = 0;          // colour of momentum vectors
+    float DefaultMomentumColor = 0;
 
     int16_t ShowVelocities = 1;
     int16_t ShowForces = 1;
@@ -56,6 +67,9 @@ public:
     int16_t GraphForce = 1;
     int16_t ProportionalGraphs = 0;
     int16_t ForceModel = LinearModel;
+    int16_t ShowMomenta = 0;          // draw momentum vectors
+    Direction CollisionDirection = Direction::Central;
+    Elasticity CollisionElasticity = Elasticity::Elastic;
     // The introduction page (AboveView or SideView) handed to the dialog.
     int16_t Page = AboveView;
 

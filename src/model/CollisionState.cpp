@@ -3,6 +3,7 @@
 #include "core/Geometry.h"
 #include "core/Numeric.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -28,6 +29,11 @@ void RotateComponents(float angle, float a, float b, float& a2, float& b2)
 }
 
 CollisionState::CollisionState(const CollisionSetup& setup) : m_setup(&setup) {}
+
+bool CollisionState::oblique(int16_t page) const
+{
+    return page == 1 && m_setup->CollisionDirection == CollisionSetup::Direction::Oblique;
+}
 
 int16_t CollisionState::ComputeCollision(int16_t page)
 {
@@ -56,7 +62,14 @@ int16_t CollisionState::ComputeCollision(int16_t page)
                                        - std::sqrt(double(discriminant)))
                                       / (2.0 * speed2));
     TimeStep = static_cast<float>(2.0 * ContactStart / 100.0);
-    LineAngle = DirectionAngle(dx, dy);
+    if (oblique(page)) {
+        // The discs push along the line between their centres as they touch.
+        LineAngle = DirectionAngle(static_cast<float>(dx + double(dux) * ContactStart),
+                                   static_cast<float>(dy + double(duy) * ContactStart));
+    } else {
+        LineAngle = DirectionAngle(dx, dy);
+    }
+    m_page = page;
     computeExchange();
     computeContactForces();
     computeExtremes();
@@ -74,7 +87,13 @@ void CollisionState::computeExchange()
     const int16_t m1 = setup.Mass[1];
     const int16_t m2 = setup.Mass[2];
     const int16_t m = Numeric::add16(m1, m2);
-    if (m == 0) {
+    if (setup.CollisionElasticity == CollisionSetup::Elasticity::Plastic) {
+        // Both leave the contact with the velocity of their centre of mass along the
+        // line; two bodies without mass count as equal ones.
+        const double common = m == 0 ? (double(NormalU[1]) + NormalU[2]) / 2
+                                     : (double(m1) * NormalU[1] + double(m2) * NormalU[2]) / m;
+        NormalV[1] = NormalV[2] = static_cast<float>(common);
+    } else if (m == 0) {
         // Two bodies without mass behave as two equal ones: they swap velocities.
         NormalV[1] = NormalU[2];
         NormalV[2] = NormalU[1];
@@ -117,6 +136,15 @@ void CollisionState::computeExtremes()
                           FinalVy[2]})
         MaxVelocity = LargerOf(MaxVelocity, v);
     MaxForce = hasContactLaw(setup.ForceModel) ? LargerOf(m_force[1], m_force[2]) : SpikeForce;
+    // A speed never exceeds the larger of its values before and after the contact,
+    // whose laws move each velocity straight or monotonically between them.
+    MaxMomentum = 0;
+    for (int16_t i = 1; i <= 2; ++i) {
+        const bool inY = m_page == 1;
+        const double before = std::hypot(double(setup.Ux[i]), inY ? double(setup.Uy[i]) : 0.0);
+        const double after = std::hypot(double(FinalVx[i]), inY ? double(FinalVy[i]) : 0.0);
+        MaxMomentum = LargerOf(MaxMomentum, static_cast<float>(setup.Mass[i] * std::max(before, after)));
+    }
     for (int16_t i = 1; i <= 2; ++i) {
         EndX[i] = static_cast<float>(setup.X[i] + (double(FinalVx[i]) + setup.Ux[i]) * ContactStart);
         EndY[i] = static_cast<float>(setup.Y[i] + (double(FinalVy[i]) + setup.Uy[i]) * ContactStart);
@@ -177,6 +205,9 @@ int16_t CollisionState::checkCode(int16_t page, float dx, float dy, float dux, f
     const float distance = static_cast<float>(std::sqrt(double(dx) * dx + double(dy) * dy));
     if (distance <= rsum)
         code = CodeOverlapping;
+    // A true oblique approach needs only that the discs come within touching distance.
+    if (oblique(page))
+        return code;
     if (dux == 0 && setup.Ux[1] != 0)
         code = Numeric::add16(code, CodeEqualX);
     if (page == 1 && duy == 0 && setup.Uy[1] != 0)

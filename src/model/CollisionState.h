@@ -91,6 +91,7 @@ public:
     float MaxVelocity = 0;    // largest velocity component, signed
     float MaxForce = 0;       // largest contact force, signed (the spike in the linear model)
     CollisionArray<float, 2> ContactX, ContactY;  // last position computed inside the contact
+    float MaxMomentum = 0;    // largest momentum magnitude of the run on the page's axes
 
 private:
     // The phases of ComputeCollision once the moment of contact is known: the
@@ -101,6 +102,8 @@ private:
     void computeContactForces();
     void computeExtremes();
     void computeContactLaws();
+    // True when the page takes the line of centres at the moment of contact.
+    bool oblique(int16_t page) const;
     int16_t checkCode(int16_t page, float dx, float dy, float dux, float duy, bool contactKnown) const;
     float position(int16_t component, int16_t body, float t);
     float velocity(int16_t component, int16_t body, float t) const;
@@ -108,6 +111,7 @@ private:
     const CollisionContactLaw& lawAt(int16_t body, float t) const;
 
     const CollisionSetup* m_setup;
+    int16_t m_page = 1;
     CollisionArray<float, 2> m_force;
     // By body, then by contact phase.
     CollisionArray<CollisionArray<CollisionContactLaw, 2>, 2> m_law;

@@ -84,6 +84,16 @@ const Particle& LiquidMolecules::Molecule(int16_t k) const
     return *m_molecules[size_t(k - 1)];
 }
 
+std::array<std::array<int, 2>, 2> LiquidMolecules::HalfCounts() const
+{
+    std::array<std::array<int, 2>, 2> counts{};
+    for (int16_t k = 1; k <= MoleculeCount(); ++k) {
+        const int group = Group(k) == 2 ? 1 : 0;
+        ++counts[size_t(group)][Molecule(k).Xcoord() < VesselMiddle ? 0 : 1];
+    }
+    return counts;
+}
+
 int16_t LiquidMolecules::Group(int16_t k) const
 {
     if (k < 1 || k > MoleculeCount())

@@ -62,6 +62,10 @@ public:
     // The group (1 left, 2 right) molecule k belongs to.
     int16_t Group(int16_t k) const;
 
+    // How many molecules of group 1 and 2 (first index 0 and 1) lie in the left and
+    // right half of the vessel (second index 0 and 1), by their centres.
+    std::array<std::array<int, 2>, 2> HalfCounts() const;
+
     // The horizontal bounds of group 1 and 2 (index 1 and 2).
     float GroupLeft(int16_t group) const { return m_GroupLeft.at(group); }
     float GroupRight(int16_t group) const { return m_GroupRight.at(group); }

@@ -59,8 +59,10 @@ QStringList untranslatedTexts(QWidget& window)
     QStringList texts = {window.windowTitle(), hintOf(&window)};
     for (auto* button : window.findChildren<QAbstractButton*>())
         texts << button->text() << hintOf(button);
+    // A table of figures is made of translated headers and numbers; its own text is
+    // no catalogue entry.
     for (auto* label : window.findChildren<QLabel*>())
-        texts << label->text() << hintOf(label);
+        texts << (label->textFormat() == Qt::RichText ? QString() : label->text()) << hintOf(label);
     for (auto* frame : window.findChildren<QGroupBox*>())
         texts << frame->title() << hintOf(frame);
     for (auto* box : window.findChildren<QLineEdit*>())
