@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <cstdint>
@@ -24,6 +25,8 @@ struct ForceReadout
 // wall's per-tick impulse and turns them into current and mean values.
 class ForceStatistics
 {
+    Q_DECLARE_TR_FUNCTIONS(ForceStatistics)
+
 public:
     // Adds one tick's wall values and returns the labels and the net totals.
     ForceReadout UpdateForceIndicators(float Fleft, float Fright, float Ftop, float Fbottom);
@@ -44,7 +47,7 @@ public:
     static QString FormatForce(double value);
 
 private:
-    QString mean(const char* prefix, double sum) const;
+    QString mean(double sum) const;
 
     int64_t m_TickCount = 0;
     double m_SumLeft = 0;
