@@ -1,5 +1,6 @@
 #include "MemoryStatus.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -38,7 +39,6 @@ QString MemoryStatus::InfoCaption() const
 {
     // Up to 15 significant digits and never an exponent for any real machine.
     const QString available = QString::number(double(m_availableBytes) / 1024, 'g', 15);
-    return QStringLiteral("Total physical memory: ") + QString::number(m_totalBytes / 1024)
-        + QStringLiteral("KB") + QChar(13) + QStringLiteral("Available physical memory: ") + available
-        + QStringLiteral("KB");
+    return QCoreApplication::translate("MemoryStatus", "Total physical memory: %1KB\rAvailable physical memory: %2KB")
+        .arg(QString::number(m_totalBytes / 1024), available);
 }

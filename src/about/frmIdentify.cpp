@@ -41,14 +41,14 @@ struct TitleLine
 
 // The maker's texts over the banner, from top to bottom.
 constexpr TitleLine TitleLines[] = {
-    {0, 120, 480, 22, true, 0x8c1c1c, "LUDOPHYS"},
-    {1, 600, 360, 13, false, 0x3c3c50, "Physics in Traditional Games"},
-    {6, 960, 360, 19, true, 0x14205a, "Floatrixon (Floatrix)"},
-    {2, 1320, 240, 13, false, 0x14205a, "Simulation Program"},
-    {12, 1560, 360, 11, false, 0x5a5a64, "Version 1.0"},
-    {3, 1920, 240, 11, false, 0x3c3c46, "\u00a9 2026 The Floatrix Team"},
-    {4, 2160, 240, 11, false, 0x3c3c46, "Physics Education Software"},
-    {5, 2400, 240, 11, false, 0x3c3c46, "Free for schools and learners everywhere"},
+    {0, 120, 480, 22, true, 0x8c1c1c, QT_TRANSLATE_NOOP("frmIdentify", "LUDOPHYS")},
+    {1, 600, 360, 13, false, 0x3c3c50, QT_TRANSLATE_NOOP("frmIdentify", "Physics in Traditional Games")},
+    {6, 960, 360, 19, true, 0x14205a, QT_TRANSLATE_NOOP("frmIdentify", "Floatrixon (Floatrix)")},
+    {2, 1320, 240, 13, false, 0x14205a, QT_TRANSLATE_NOOP("frmIdentify", "Simulation Program")},
+    {12, 1560, 360, 11, false, 0x5a5a64, QT_TRANSLATE_NOOP("frmIdentify", "Version 1.0")},
+    {3, 1920, 240, 11, false, 0x3c3c46, QT_TRANSLATE_NOOP("frmIdentify", "\u00a9 2026 The Floatrix Team")},
+    {4, 2160, 240, 11, false, 0x3c3c46, QT_TRANSLATE_NOOP("frmIdentify", "Physics Education Software")},
+    {5, 2400, 240, 11, false, 0x3c3c46, QT_TRANSLATE_NOOP("frmIdentify", "Free for schools and learners everywhere")},
 };
 
 } // namespace
@@ -56,7 +56,7 @@ constexpr TitleLine TitleLines[] = {
 frmIdentify::frmIdentify()
 {
     setObjectName("frmIdentify");
-    setWindowTitle("About...");
+    setWindowTitle(tr("About..."));
     setWindowIcon(ProgramImages::icon());
     FormLayout::fixSize(this, 6240, 4335);
     buildTitlePanel();
@@ -64,7 +64,7 @@ frmIdentify::frmIdentify()
     buildFooter();
 
     m_EffectTimer.setTimerType(Qt::PreciseTimer);
-    m_EffectTimer.setInterval(SlideInterval);
+    setPhase(SplashPhase::Slide);
     connect(&m_EffectTimer, &QTimer::timeout, this, &frmIdentify::EffectTimer_Timer);
     watch(this);
     Form_Load();
@@ -95,7 +95,7 @@ void frmIdentify::buildTitlePanel()
 void frmIdentify::buildTitleLabels()
 {
     for (const TitleLine& line : TitleLines) {
-        auto* label = new QLabel(QString::fromUtf8(line.text), Picture2);
+        auto* label = new QLabel(tr(line.text), Picture2);
         label->setObjectName(QString("lblID(%1)").arg(line.index));
         FormLayout::place(label, 1080, line.top, 4575, line.height);
         label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -125,7 +125,7 @@ void frmIdentify::buildFooter()
     lblInfo->setObjectName("lblInfo");
     FormLayout::place(lblInfo, 840, 3600, 3855, 615);
     lblInfo->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    cmdClose = new QPushButton("&OK", this);
+    cmdClose = new QPushButton(tr("&OK"), this);
     cmdClose->setObjectName("cmdClose");
     FormLayout::place(cmdClose, 5040, 3720, 975, 375);
     cmdClose->setDefault(true);
@@ -162,32 +162,38 @@ void frmIdentify::ShowAbout()
 
 void frmIdentify::installHints()
 {
-    StatusHints::install(Picture2, "Floatrixon (Floatrix), a simulation program of the Ludophys series");
-    StatusHints::install(picLogo, "Floatrix");
-    StatusHints::install(lblInfo, "Physical memory of this computer");
-    StatusHints::install(cmdClose, "Close the About box");
+    StatusHints::install(Picture2, tr("Floatrixon (Floatrix), a simulation program of the Ludophys series"));
+    StatusHints::install(picLogo, tr("Floatrix"));
+    StatusHints::install(lblInfo, tr("Physical memory of this computer"));
+    StatusHints::install(cmdClose, tr("Close the About box"));
 }
 
 void frmIdentify::AbortIntroduction()
 {
-    // Only a change of the interval restarts the timer's count: clicks that follow
-    // one another during the last second must not put the hand-over off for good.
-    if (m_EffectTimer.interval() != RestInterval)
-        m_EffectTimer.setInterval(RestInterval);
+    // Only a change of phase restarts the timer's count: clicks that follow one
+    // another during the last second must not put the hand-over off for good.
+    if (m_Phase != SplashPhase::Rest)
+        setPhase(SplashPhase::Rest);
+}
+
+void frmIdentify::setPhase(SplashPhase phase)
+{
+    m_Phase = phase;
+    m_EffectTimer.setInterval(phase == SplashPhase::Slide ? SlideInterval : RestInterval);
 }
 
 void frmIdentify::EffectTimer_Timer()
 {
     RunGuarded(
         [this] {
-            if (m_EffectTimer.interval() == SlideInterval) {
+            if (m_Phase == SplashPhase::Slide) {
                 int top = m_FraIdentifyTop - SlideStep;
                 if (top <= RestTop) {
                     top = RestTop;
-                    m_EffectTimer.setInterval(RestInterval);
+                    setPhase(SplashPhase::Rest);
                 }
                 setFraIdentifyTop(top);
-            } else if (m_EffectTimer.interval() == RestInterval) {
+            } else {
                 m_EffectTimer.stop();
                 emit splashFinished();
             }

@@ -46,6 +46,13 @@ public:
     // The splash's timer, disabled until the start-up routine enables it.
     QTimer& EffectTimer() { return m_EffectTimer; }
 
+    // The splash's phases: the panel slides up a step at each short tick, then
+    // rests for one long tick before the hand-over.
+    enum class SplashPhase { Slide, Rest };
+    SplashPhase Phase() const { return m_Phase; }
+    // Enters a phase; the timer's interval follows it (a change restarts its count).
+    void setPhase(SplashPhase phase);
+
     // The title panel's top, in twips.
     int FraIdentifyTop() const { return m_FraIdentifyTop; }
     void setFraIdentifyTop(int twips);
@@ -87,5 +94,6 @@ private:
     QLabel* lblInfo = nullptr;
     QPushButton* cmdClose = nullptr;
     QTimer m_EffectTimer;
+    SplashPhase m_Phase = SplashPhase::Slide;
     int m_FraIdentifyTop = 0;
 };

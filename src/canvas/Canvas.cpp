@@ -1,12 +1,12 @@
 #include "Canvas.h"
 
+#include "core/Twips.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace {
-
-constexpr double TwipsPerPixel = 15.0;
 
 int32_t clampToPixel(double value)
 {
@@ -93,7 +93,7 @@ void Canvas::deviceResized()
 {
     if (m_scaleMode == ScaleMode::User)
         return;
-    const double factor = (m_scaleMode == ScaleMode::Twips ? TwipsPerPixel : 1.0) / m_pixelRatio;
+    const double factor = (m_scaleMode == ScaleMode::Twips ? double(Twips::PerPixel) : 1.0) / m_pixelRatio;
     m_ScaleLeft = 0;
     m_ScaleTop = 0;
     m_ScaleWidth = static_cast<float>(DeviceWidth() * factor);

@@ -36,7 +36,7 @@ QString& movieFolderOverride()
 frmMacroView::frmMacroView(MoviePlayer& player) : m_player(player)
 {
     setObjectName("frmMacroView");
-    setWindowTitle("Macroscopic View");
+    setWindowTitle(tr("Macroscopic View"));
     buildControls();
     resize(sizeHint());
     Form_Load();
@@ -94,21 +94,21 @@ void frmMacroView::buildMovieFrame()
     lblMovieMessage->setStyleSheet("color: white; background: black; padding: 12px;");
     lblMovieMessage->hide();
     inside->addWidget(lblMovieMessage);
-    StatusHints::install(picMovie, "A Floatrixon rising into the evening sky");
+    StatusHints::install(picMovie, tr("A Floatrixon rising into the evening sky"));
 }
 
 void frmMacroView::buildButtons()
 {
-    const char* const captions[] = {"Exit", "Play"};
+    const QString captions[] = {tr("Exit"), tr("Play")};
     for (int i = 0; i < 2; ++i) {
         cmdCommand[i] = new QPushButton(captions[i], this);
         cmdCommand[i]->setObjectName(QString("cmdCommand(%1)").arg(i));
         connect(cmdCommand[i], &QPushButton::clicked, this, [this, i] { cmdCommand_Click(i); });
     }
-    FormLayout::place(cmdCommand[1], 2760, 3840, 1095, 375);
-    FormLayout::place(cmdCommand[0], 4200, 3840, 1095, 375);
-    StatusHints::install(cmdCommand[1], "Play the film from where it stands");
-    StatusHints::install(cmdCommand[0], "Close the macroscopic view");
+    FormLayout::place(cmdCommand[PlayButton], 2760, 3840, 1095, 375);
+    FormLayout::place(cmdCommand[ExitButton], 4200, 3840, 1095, 375);
+    StatusHints::install(cmdCommand[PlayButton], tr("Play the film from where it stands"));
+    StatusHints::install(cmdCommand[ExitButton], tr("Close the macroscopic view"));
 }
 
 void frmMacroView::connectPlayer()
@@ -122,8 +122,8 @@ void frmMacroView::Form_Load()
 {
     const QString path = filmPath();
     if (!QFileInfo(path).isReadable()) {
-        showMovieMessage(QString("The film cannot be shown.\n\n\"floatrixo.avi\" is missing from the "
-                                 "program's folder:\n%1")
+        showMovieMessage(tr("The film cannot be shown.\n\n\"floatrixo.avi\" is missing from the "
+                            "program's folder:\n%1")
                              .arg(QFileInfo(path).absolutePath()));
         return;
     }
@@ -135,8 +135,7 @@ void frmMacroView::Form_Load()
 
 void frmMacroView::showPlayerError(const QString& error)
 {
-    showMovieMessage(
-        QString("The film cannot be shown.\n\n\"floatrixo.avi\" could not be played:\n%1").arg(error));
+    showMovieMessage(tr("The film cannot be shown.\n\n\"floatrixo.avi\" could not be played:\n%1").arg(error));
 }
 
 QString frmMacroView::filmPath()
@@ -175,17 +174,17 @@ void frmMacroView::showMovieMessage(const QString& text)
     oleMovie->hide();
     lblMovieMessage->setText(text);
     lblMovieMessage->show();
-    cmdCommand[1]->setEnabled(false);
+    cmdCommand[PlayButton]->setEnabled(false);
 }
 
 void frmMacroView::cmdCommand_Click(int Index)
 {
     RunGuarded([this, Index] {
         switch (Index) {
-        case 0:
+        case ExitButton:
             CloseAndRelease(this);
             break;
-        case 1:
+        case PlayButton:
             m_player.play();
             break;
         default:
@@ -209,6 +208,6 @@ void frmMacroView::Form_Resize()
     const MovieLayout layout =
         MovieLayout::arrange(Twips::fromPixels(outer.width()), Twips::fromPixels(outer.height()));
     FormLayout::place(picMovie, layout.picMovie);
-    FormLayout::place(cmdCommand[0], layout.exit);
-    FormLayout::place(cmdCommand[1], layout.play);
+    FormLayout::place(cmdCommand[ExitButton], layout.exit);
+    FormLayout::place(cmdCommand[PlayButton], layout.play);
 }

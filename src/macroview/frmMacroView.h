@@ -26,6 +26,9 @@ public:
     // Winds the film back for the next opening unless closing did.
     ~frmMacroView() override;
 
+    // The buttons, by their index.
+    enum Command { ExitButton = 0, PlayButton = 1 };
+
     // 0 "Exit" unloads the window; 1 "Play" plays the film from where it stands.
     void cmdCommand_Click(int Index);
 

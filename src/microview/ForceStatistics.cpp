@@ -35,21 +35,21 @@ ForceReadout ForceStatistics::UpdateForceIndicators(float Fleft, float Fright, f
 {
     ForceReadout readout;
     ++m_TickCount;
-    readout.CurrentLeft = QStringLiteral("  Fleft = ") + FormatForce(Fleft);
-    readout.CurrentRight = QStringLiteral("  Fright = ") + FormatForce(Fright);
+    readout.CurrentLeft = tr("  Fleft = %1").arg(FormatForce(Fleft));
+    readout.CurrentRight = tr("  Fright = %1").arg(FormatForce(Fright));
     m_SumLeft += Fleft;
     m_SumRight += Fright;
-    readout.CurrentTop = QStringLiteral("  Ftop = ") + FormatForce(Ftop);
+    readout.CurrentTop = tr("  Ftop = %1").arg(FormatForce(Ftop));
     m_SumTop += Ftop;
     m_SumBottom += Fbottom;
-    readout.MeanLeft = mean("<Fleft> = ", m_SumLeft);
-    readout.MeanRight = mean("<Fright> = ", m_SumRight);
-    readout.MeanTop = mean("<Ftop> = ", m_SumTop);
+    readout.MeanLeft = tr("<Fleft> = %1").arg(mean(m_SumLeft));
+    readout.MeanRight = tr("<Fright> = %1").arg(mean(m_SumRight));
+    readout.MeanTop = tr("<Ftop> = %1").arg(mean(m_SumTop));
     // The net totals are summed in double and kept as floats, as the panel uses them.
     readout.H = static_cast<float>(m_SumRight + m_SumLeft);
     readout.V = static_cast<float>(m_SumBottom + m_SumTop);
-    readout.MeanHorizontal = mean("<Fhorizontal> = ", readout.H);
-    readout.MeanVertical = mean("<Fvertical> = ", readout.V);
+    readout.MeanHorizontal = tr("<Fhorizontal> = %1").arg(mean(readout.H));
+    readout.MeanVertical = tr("<Fvertical> = %1").arg(mean(readout.V));
     if (m_record.RowCount() < MaxRecordedTicks) {
         const double ticks = static_cast<double>(m_TickCount);
         m_record.AddRow({ticks, Fleft, Fright, Ftop, m_SumLeft / ticks, m_SumRight / ticks, m_SumTop / ticks});
@@ -67,9 +67,9 @@ void ForceStatistics::InitialiseCounters()
     m_record.Clear();
 }
 
-QString ForceStatistics::mean(const char* prefix, double sum) const
+QString ForceStatistics::mean(double sum) const
 {
-    return QLatin1String(prefix) + FormatForce(sum / static_cast<double>(m_TickCount));
+    return FormatForce(sum / static_cast<double>(m_TickCount));
 }
 
 QString ForceStatistics::FormatForce(double value)

@@ -2,6 +2,7 @@
 
 #include "core/CsvTable.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <cstdint>
@@ -26,6 +27,8 @@ struct ForceReadout
 // wall's per-tick impulse and turns them into current and mean values.
 class ForceStatistics
 {
+    Q_DECLARE_TR_FUNCTIONS(ForceStatistics)
+
 public:
     // Adds one tick's wall values and returns the labels and the net totals.
     ForceReadout UpdateForceIndicators(float Fleft, float Fright, float Ftop, float Fbottom);
@@ -51,7 +54,7 @@ public:
     static constexpr std::size_t MaxRecordedTicks = 1000000;
 
 private:
-    QString mean(const char* prefix, double sum) const;
+    QString mean(double sum) const;
 
     int64_t m_TickCount = 0;
     double m_SumLeft = 0;

@@ -104,13 +104,13 @@ void MicroViewDesign::buildControls(QWidget* form)
 
 void MicroViewDesign::buildSamplePictures(QWidget* form)
 {
-    const std::array<QString, 3> captions = {"Left Wall", "Right Wall", "Top Wall"};
+    const std::array<QString, 3> captions = {tr("Left Wall"), tr("Right Wall"), tr("Top Wall")};
     const std::array<int, 3> lefts = {120, 5400, 2760};
     const std::array<int, 3> tops = {2640, 2640, 120};
     for (int i = 0; i < 3; ++i) {
         fraDraw[i] = frame(form, indexedName("fraDraw", i), captions[i], lefts[i], tops[i], 2175, 2175);
-        picDraw[i] = picture(fraDraw[i], indexedName("picDraw", i), "Microscopic view of gas molecules' movement", 120,
-            240, 1905, 1785);
+        picDraw[i] = picture(fraDraw[i], indexedName("picDraw", i), tr("Microscopic view of gas molecules' movement"),
+            120, 240, 1905, 1785);
         // The scale is the picture's design size in twips whatever the screen's
         // pixel ratio, so that molecule sizes keep their proportions.
         picDraw[i]->canvas().setScale(0, 0, 1905, 1785);
@@ -120,37 +120,42 @@ void MicroViewDesign::buildSamplePictures(QWidget* form)
 
 void MicroViewDesign::buildCalculations(QWidget* form)
 {
-    fraCalculations[2] = frame(form, indexedName("fraCalculations", 2), "Top Wall Calculations", 480, 240, 2175, 975);
-    fraCalculations[0] = frame(form, indexedName("fraCalculations", 0), "Calculations of Totals", 5400, 240, 2175, 975);
-    fraCalculations[1] = frame(form, indexedName("fraCalculations", 1), "Left Wall Calculations", 120, 1560, 2175, 975);
-    fraCalculations[3] =
-        frame(form, indexedName("fraCalculations", 3), "Right Wall Calculations", 5400, 1560, 2175, 975);
-    lblCurrentFx[0] = label(fraCalculations[1], indexedName("lblCurrentFx", 0), "  Fx =",
-        "Current value of force on left wall", 120, 240, 1935);
-    lblMeanFx[0] = label(fraCalculations[1], indexedName("lblMeanFx", 0), "<Fx> =", "Mean value of force on left wall",
-        120, 600, 1935);
-    lblCurrentFx[1] = label(fraCalculations[3], indexedName("lblCurrentFx", 1), "  Fx =",
-        "Current value of force on right wall", 120, 240, 1935);
-    lblMeanFx[1] = label(fraCalculations[3], indexedName("lblMeanFx", 1), "<Fx> =", "Mean value of force on right wall",
-        120, 600, 1935);
-    lblCurrentFy = label(fraCalculations[2], "lblCurrentFy", "  Fy =", "Current value of force on top wall", 120,
-        240, 1935);
-    lblMeanFy = label(fraCalculations[2], "lblMeanFy", "<Fy> =", "Mean value of force on top wall", 120, 600, 1935);
-    lblFxMeanTotal = label(fraCalculations[0], "lblFxMeanTotal", "<Fx> =", "Mean value (in time) of horizontal force",
-        120, 240, 1935);
-    lblFyMeanTotal = label(fraCalculations[0], "lblFyMeanTotal", "<Fy> =", "Mean value (in time) of vertical force",
-        120, 600, 1935);
+    fraCalculations[2]
+        = frame(form, indexedName("fraCalculations", 2), tr("Top Wall Calculations"), 480, 240, 2175, 975);
+    fraCalculations[0]
+        = frame(form, indexedName("fraCalculations", 0), tr("Calculations of Totals"), 5400, 240, 2175, 975);
+    fraCalculations[1]
+        = frame(form, indexedName("fraCalculations", 1), tr("Left Wall Calculations"), 120, 1560, 2175, 975);
+    fraCalculations[3]
+        = frame(form, indexedName("fraCalculations", 3), tr("Right Wall Calculations"), 5400, 1560, 2175, 975);
+    lblCurrentFx[0] = label(fraCalculations[1], indexedName("lblCurrentFx", 0), tr("  Fx ="),
+        tr("Current value of force on left wall"), 120, 240, 1935);
+    lblMeanFx[0] = label(fraCalculations[1], indexedName("lblMeanFx", 0), tr("<Fx> ="),
+        tr("Mean value of force on left wall"), 120, 600, 1935);
+    lblCurrentFx[1] = label(fraCalculations[3], indexedName("lblCurrentFx", 1), tr("  Fx ="),
+        tr("Current value of force on right wall"), 120, 240, 1935);
+    lblMeanFx[1] = label(fraCalculations[3], indexedName("lblMeanFx", 1), tr("<Fx> ="),
+        tr("Mean value of force on right wall"), 120, 600, 1935);
+    lblCurrentFy = label(
+        fraCalculations[2], "lblCurrentFy", tr("  Fy ="), tr("Current value of force on top wall"), 120, 240, 1935);
+    lblMeanFy
+        = label(fraCalculations[2], "lblMeanFy", tr("<Fy> ="), tr("Mean value of force on top wall"), 120, 600, 1935);
+    lblFxMeanTotal = label(fraCalculations[0], "lblFxMeanTotal", tr("<Fx> ="),
+        tr("Mean value (in time) of horizontal force"), 120, 240, 1935);
+    lblFyMeanTotal = label(fraCalculations[0], "lblFyMeanTotal", tr("<Fy> ="),
+        tr("Mean value (in time) of vertical force"), 120, 600, 1935);
 }
 
 void MicroViewDesign::buildMacroView(QWidget* form)
 {
-    fraMacroView = frame(form, "fraMacroView", "Macroscopic Movement", 2400, 2400, 2895, 2535);
-    picMacroView = picture(fraMacroView, "picMacroView", "Macroscopic view of Floatrix's direction of movement", 360,
-        240, 2415, 1935);
+    fraMacroView = frame(form, "fraMacroView", tr("Macroscopic Movement"), 2400, 2400, 2895, 2535);
+    picMacroView = picture(
+        fraMacroView, "picMacroView", tr("Macroscopic view of Floatrix's direction of movement"), 360, 240, 2415, 1935);
     picMacroView->canvas().setScale(0, 0, 2415, 1935);
-    picForceXIndicator = picture(fraMacroView, "picForceXIndicator", "Horizontal force indicator", 360, 2280, 2415,
-        135);
-    picForceYIndicator = picture(fraMacroView, "picForceYIndicator", "Vertical force indicator", 120, 240, 135, 1935);
+    picForceXIndicator
+        = picture(fraMacroView, "picForceXIndicator", tr("Horizontal force indicator"), 360, 2280, 2415, 135);
+    picForceYIndicator
+        = picture(fraMacroView, "picForceYIndicator", tr("Vertical force indicator"), 120, 240, 135, 1935);
     for (CanvasWidget* indicator : {picForceXIndicator, picForceYIndicator}) {
         Canvas& surface = indicator->canvas();
         surface.setScalePixels();
@@ -188,7 +193,7 @@ void MicroViewDesign::buildBalloon()
 
 void MicroViewDesign::buildBars(QWidget* form)
 {
-    const std::array<QString, 2> latticeHints = {"# of columns of molecules", "# of rows of molecules"};
+    const std::array<QString, 2> latticeHints = {tr("# of columns of molecules"), tr("# of rows of molecules")};
     for (int i = 0; i < 2; ++i) {
         const int top = i == 0 ? 6000 : 6360;
         HScrNoOfMolecules[i] = bar(form, indexedName("HScrNoOfMolecules", i), 120, top, 1, 5, 5);
@@ -196,42 +201,42 @@ void MicroViewDesign::buildBars(QWidget* form)
             label(form, indexedName("lblNoOfMolecules", i), QString(), latticeHints[i], 1320, top, 735);
     }
     HScrMass = bar(form, "HScrMass", 2160, 6000, 1, 500, 1);
-    lblMass = label(form, "lblMass", QString(), "Molecules' mass", 3360, 6000, 735);
+    lblMass = label(form, "lblMass", QString(), tr("Molecules' mass"), 3360, 6000, 735);
     HScrRadius = bar(form, "HScrRadius", 2160, 6360, 10, 150, 10);
-    lblRadius = label(form, "lblRadius", QString(), "Molecules' radius", 3360, 6360, 735);
+    lblRadius = label(form, "lblRadius", QString(), tr("Molecules' radius"), 3360, 6360, 735);
     HScrdt = bar(form, "HScrdt", 4200, 6000, 1, 50, 1);
-    lbldt = label(form, "lbldt", QString(), "Time \"step\" of simulation", 5400, 6000, 780);
+    lbldt = label(form, "lbldt", QString(), tr("Time \"step\" of simulation"), 5400, 6000, 780);
     HScrTemp = bar(form, "HScrTemp", 4200, 6360, 290, 330, 293);
     HScrTemp->setPageStep(10);
-    lblTemp = label(form, "lblTemp", QString(), "Temperature of sample (K)", 5400, 6360, 780);
+    lblTemp = label(form, "lblTemp", QString(), tr("Temperature of sample (K)"), 5400, 6360, 780);
 }
 
 void MicroViewDesign::buildCheckBoxes(QWidget* form)
 {
-    chkDrawGrid = checkBox(form, "chkDrawGrid", "Draw Grid", "Check to draw lattice grid", 120, 5160, 2100);
-    chkDrawCenterLine = checkBox(form, "chkDrawCenterLine", "Draw molecule distance",
-        "Check to draw molecules' current distance from lattice positions", 120, 5520, 2100);
-    ChkRandomDrawColor = checkBox(form, "ChkRandomDrawColor", "Random Draw  Color",
-        "Check to draw molecules in random colors", 2280, 5160, 2100);
-    chkFilledMolecules = checkBox(form, "chkFilledMolecules", "\"Compact\" molecules", "Check to draw solid molecules",
-        2280, 5520, 2100);
-    ChkLeaveTrail = checkBox(form, "ChkLeaveTrail", "Track movement", "Check to make molecules' paths visible", 4440,
-        5160, 1740);
-    ChkObserveSingleMolecule = checkBox(form, "ChkObserveSingleMolecule", "Observe Molecule",
-        "Check to observe a single molecules of the sample", 4440, 5520, 1740);
-    ChkPerturbation = checkBox(form, "ChkPerturbation", "Perturbation",
-        "Check to introduce perturbation in the molecules' movement", 6240, 4920, 1395);
+    chkDrawGrid = checkBox(form, "chkDrawGrid", tr("Draw Grid"), tr("Check to draw lattice grid"), 120, 5160, 2100);
+    chkDrawCenterLine = checkBox(form, "chkDrawCenterLine", tr("Draw molecule distance"),
+        tr("Check to draw molecules' current distance from lattice positions"), 120, 5520, 2100);
+    ChkRandomDrawColor = checkBox(form, "ChkRandomDrawColor", tr("Random Draw  Color"),
+        tr("Check to draw molecules in random colors"), 2280, 5160, 2100);
+    chkFilledMolecules = checkBox(
+        form, "chkFilledMolecules", tr("\"Compact\" molecules"), tr("Check to draw solid molecules"), 2280, 5520, 2100);
+    ChkLeaveTrail = checkBox(
+        form, "ChkLeaveTrail", tr("Track movement"), tr("Check to make molecules' paths visible"), 4440, 5160, 1740);
+    ChkObserveSingleMolecule = checkBox(form, "ChkObserveSingleMolecule", tr("Observe Molecule"),
+        tr("Check to observe a single molecules of the sample"), 4440, 5520, 1740);
+    ChkPerturbation = checkBox(form, "ChkPerturbation", tr("Perturbation"),
+        tr("Check to introduce perturbation in the molecules' movement"), 6240, 4920, 1395);
 }
 
 void MicroViewDesign::buildButtons(QWidget* form)
 {
-    const std::array<QString, 3> captions = {"Exit", "Simulate", "Clear history"};
+    const std::array<QString, 3> captions = {tr("Exit"), tr("Simulate"), tr("Clear history")};
     const std::array<int, 3> tops = {6240, 5280, 5760};
     for (int i = 0; i < 3; ++i) {
         cmdCommand[i] = new QPushButton(captions[i], form);
         cmdCommand[i]->setObjectName(indexedName("cmdCommand", i));
         FormLayout::place(cmdCommand[i], 6240, tops[i], 1335, 375);
     }
-    cmdCommand[0]->setToolTip("Click to exit");
-    cmdCommand[2]->setToolTip("Click to restart calculations of mean force values");
+    cmdCommand[0]->setToolTip(tr("Click to exit"));
+    cmdCommand[2]->setToolTip(tr("Click to restart calculations of mean force values"));
 }

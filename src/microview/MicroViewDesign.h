@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include <array>
 
 class CanvasWidget;
@@ -17,6 +19,9 @@ class QWidget;
 // and named as the window's handlers and tests know it, with its hint as tool tip.
 class MicroViewDesign
 {
+    // Its texts are the window's, translated in the window's context.
+    Q_DECLARE_TR_FUNCTIONS(frmMicroView)
+
 protected:
     // Creates every control on the form, at its design value.
     void buildControls(QWidget* form);

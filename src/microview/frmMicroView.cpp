@@ -48,7 +48,7 @@ void setTextColor(QLabel* label, int32_t color)
 frmMicroView::frmMicroView()
 {
     setObjectName("frmMicroView");
-    setWindowTitle("Microscopic View of Gas");
+    setWindowTitle(tr("Microscopic View of Gas"));
     FormLayout::fixSize(this, 7680, 6705);
     buildControls(this);
     SimulationTimer = new TickDriver([this] { tick(); }, this);
@@ -276,18 +276,18 @@ void frmMicroView::DrawMacroGrid()
 void frmMicroView::cmdCommand_Click(int Index)
 {
     switch (Index) {
-    case 0:
+    case ExitButton:
         SimulationTimer->setEnabled(false);
         DestroySample();
         CloseAndRelease(this);
         break;
-    case 1:
+    case SimulateButton:
         if (m_running)
             pause();
         else
             simulate();
         break;
-    case 2:
+    case ClearHistoryButton:
         ClearHistory();
         break;
     default:
@@ -298,18 +298,18 @@ void frmMicroView::cmdCommand_Click(int Index)
 void frmMicroView::simulate()
 {
     m_running = true;
-    cmdCommand[1]->setToolTip(tr("Click to pause simulation"));
+    cmdCommand[SimulateButton]->setToolTip(tr("Click to pause simulation"));
     InitialiseCounters();
-    cmdCommand[1]->setText(tr("Pause"));
+    cmdCommand[SimulateButton]->setText(tr("Pause"));
     SimulationTimer->setEnabled(true);
 }
 
 void frmMicroView::pause()
 {
     m_running = false;
-    cmdCommand[1]->setToolTip(tr("Click to begin simulation"));
+    cmdCommand[SimulateButton]->setToolTip(tr("Click to begin simulation"));
     SimulationTimer->setEnabled(false);
-    cmdCommand[1]->setText(tr("Simulate"));
+    cmdCommand[SimulateButton]->setText(tr("Simulate"));
 }
 
 void frmMicroView::HScrNoOfMolecules_Change(int Index)
@@ -320,7 +320,7 @@ void frmMicroView::HScrNoOfMolecules_Change(int Index)
         forEachSample([value](Gas& gas) { gas.setColumnsOfMolecules(value); });
     else
         forEachSample([value](Gas& gas) { gas.setRowsOfMolecules(value); });
-    lblNoOfMolecules[Index]->setText(QStringLiteral("N%1=%2").arg(QChar('x' + Index)).arg(value));
+    lblNoOfMolecules[Index]->setText((Index == 0 ? tr("Nx=%1") : tr("Ny=%1")).arg(value));
     forEachSample([](Gas& gas) {
         gas.InitialiseParticles();
         gas.DrawGas();
@@ -335,14 +335,14 @@ void frmMicroView::HScrNoOfMolecules_Scroll(int Index)
 void frmMicroView::HScrMass_Change()
 {
     const int16_t value = int16_t(HScrMass->value());
-    lblMass->setText(QStringLiteral("m=%1").arg(value));
+    lblMass->setText(tr("m=%1").arg(value));
     forEachSample([value](Gas& gas) { gas.setMoleculesMass(value); });
 }
 
 void frmMicroView::HScrRadius_Change()
 {
     const int16_t value = int16_t(HScrRadius->value());
-    lblRadius->setText(QStringLiteral("R=%1").arg(value));
+    lblRadius->setText(tr("R=%1").arg(value));
     forEachSample([value](Gas& gas) { gas.setRadius(value); });
 }
 
@@ -355,7 +355,7 @@ void frmMicroView::HScrdt_Change()
 {
     const float value = float(HScrdt->value()) / 100;
     forEachSample([value](Gas& gas) { gas.setTimeStep(value); });
-    lbldt->setText(QStringLiteral("dt=") + timeStepText(Sample[0]->TimeStep()));
+    lbldt->setText(tr("dt=%1").arg(timeStepText(Sample[0]->TimeStep())));
 }
 
 void frmMicroView::HScrdt_Scroll()
@@ -366,7 +366,7 @@ void frmMicroView::HScrdt_Scroll()
 void frmMicroView::HScrTemp_Change()
 {
     const int16_t value = int16_t(HScrTemp->value());
-    lblTemp->setText(QStringLiteral("T=%1").arg(value));
+    lblTemp->setText(tr("T=%1").arg(value));
     forEachSample([value](Gas& gas) { gas.setTemperature(value); });
     int32_t color = Rgb::RGB(0, 0, 0);
     if (value >= Sample[0]->LiquidGasTemperature())

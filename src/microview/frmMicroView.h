@@ -31,6 +31,9 @@ public:
 
     // One simulation step of the three samples, the statistics and the panel.
     void SimulationTimer_Timer();
+    // The buttons, by their index.
+    enum Command { ExitButton = 0, SimulateButton = 1, ClearHistoryButton = 2 };
+
     // 0 Exit, 1 Simulate/Pause, 2 Clear history.
     void cmdCommand_Click(int Index);
     // Redraws a sample's picture from the sample's state.

@@ -38,13 +38,15 @@ void ShowMainWindow()
 
 bool ConfirmExit()
 {
-    return MsgBox(QStringLiteral("Are you sure you want to exit ?"), 36, QStringLiteral("Floatrix"))
+    return MsgBox(QCoreApplication::translate("GlobDef", "Are you sure you want to exit ?"),
+               MsgBoxStyle::YesNo | MsgBoxStyle::Question, QCoreApplication::translate("GlobDef", "Floatrix"))
         == MsgBoxAnswer::Yes;
 }
 
 void ShowNotImplemented()
 {
-    MsgBox(QStringLiteral("Sorry, feature not yet implemented"), 16, QStringLiteral("Floatrix"));
+    MsgBox(QCoreApplication::translate("GlobDef", "Sorry, feature not yet implemented"), MsgBoxStyle::Critical,
+        QCoreApplication::translate("GlobDef", "Floatrix"));
 }
 
 void EndProgram()

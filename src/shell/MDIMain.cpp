@@ -24,7 +24,7 @@ constexpr int StatusLineHeight = 255;
 MDIMain::MDIMain()
 {
     setObjectName("MDIMain");
-    setWindowTitle("Ludophys - The Floatrixon (Floatrix)");
+    setWindowTitle(tr("Ludophys - The Floatrixon (Floatrix)"));
     resize(800, 600);
 
     auto* central = new QWidget(this);
@@ -62,18 +62,18 @@ QAction* MDIMain::addItem(QMenu* menu, const QString& name, int index, const QSt
 
 void MDIMain::buildMenus()
 {
-    mnuContents = menuBar()->addMenu("Contents");
+    mnuContents = menuBar()->addMenu(tr("Contents"));
     mnuContents->setObjectName("mnuContents");
-    const QStringList contents = {"Introduction", "Macroscopic View", "Microscopic View", "-", "Exit"};
+    const QStringList contents = {tr("Introduction"), tr("Macroscopic View"), tr("Microscopic View"), "-", tr("Exit")};
     for (int i = 0; i < int(contents.size()); ++i) {
         mnuContentsItem[i] = addItem(mnuContents, "mnuContentsItem", i, contents[i]);
         connect(mnuContentsItem[i], &QAction::triggered, this, [this, i] { mnuContentsItem_Click(i); });
     }
-    mnuOptions = menuBar()->addMenu("Options");
+    mnuOptions = menuBar()->addMenu(tr("Options"));
     mnuOptions->setObjectName("mnuOptions");
-    mnuHelp = menuBar()->addMenu("Help");
+    mnuHelp = menuBar()->addMenu(tr("Help"));
     mnuHelp->setObjectName("mnuHelp");
-    const QStringList help = {"Contents", "Search for...", "-", "About..."};
+    const QStringList help = {tr("Contents"), tr("Search for..."), "-", tr("About...")};
     for (int i = 0; i < int(help.size()); ++i) {
         mnuHelpItem[i] = addItem(mnuHelp, "mnuHelpItem", i, help[i]);
         connect(mnuHelpItem[i], &QAction::triggered, this, [this, i] { mnuHelpItem_Click(i); });
@@ -84,16 +84,16 @@ void MDIMain::mnuContentsItem_Click(int Index)
 {
     RunGuarded([this, Index] {
         switch (Index) {
-        case 0:
+        case IntroductionItem:
             ShowChild(&Form<frmIntroduction>());
             break;
-        case 1:
+        case MacroViewItem:
             ShowChild(&Form<frmMacroView>());
             break;
-        case 2:
+        case MicroViewItem:
             ShowChild(&Form<frmMicroView>());
             break;
-        case 4:
+        case ExitItem:
             close();
             break;
         default:
@@ -106,11 +106,11 @@ void MDIMain::mnuHelpItem_Click(int Index)
 {
     RunGuarded([Index] {
         switch (Index) {
-        case 0:
-        case 1:
+        case HelpContentsItem:
+        case SearchItem:
             ShowNotImplemented();
             break;
-        case 3:
+        case AboutItem:
             Form<frmIdentify>().ShowAbout();
             break;
         default:

@@ -31,6 +31,10 @@ public:
     // The area that holds the child windows.
     QMdiArea* mdiArea() const { return m_mdiArea; }
 
+    // The items of the Contents and Help menus, by their index.
+    enum ContentsItem { IntroductionItem = 0, MacroViewItem = 1, MicroViewItem = 2, ExitItem = 4 };
+    enum HelpItem { HelpContentsItem = 0, SearchItem = 1, AboutItem = 3 };
+
     // The menu handlers.
     void mnuContentsItem_Click(int Index);
     void mnuHelpItem_Click(int Index);

@@ -15,7 +15,7 @@ void report(const std::function<void()>& onFault, const QString& message)
 {
     if (onFault)
         onFault();
-    MsgBox(message, 16, QCoreApplication::translate("HandlerGuard", "Floatrix"));
+    MsgBox(message, MsgBoxStyle::Critical, QCoreApplication::translate("HandlerGuard", "Floatrix"));
 }
 
 } // namespace

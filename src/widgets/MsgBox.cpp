@@ -13,14 +13,14 @@ QPointer<QWidget>& boxOwner()
 
 QMessageBox::Icon iconOf(int style)
 {
-    switch (style & 0x70) {
-    case 16:
+    switch (style & MsgBoxStyle::IconMask) {
+    case MsgBoxStyle::Critical:
         return QMessageBox::Critical;
-    case 32:
+    case MsgBoxStyle::Question:
         return QMessageBox::Question;
-    case 48:
+    case MsgBoxStyle::Exclamation:
         return QMessageBox::Warning;
-    case 64:
+    case MsgBoxStyle::Information:
         return QMessageBox::Information;
     default:
         return QMessageBox::NoIcon;
@@ -36,7 +36,7 @@ void SetMsgBoxOwner(QWidget* owner)
 
 int MsgBox(const QString& prompt, int style, const QString& title)
 {
-    const bool yesNo = (style & 0x0F) == 4;
+    const bool yesNo = (style & MsgBoxStyle::ButtonsMask) == MsgBoxStyle::YesNo;
     // The box belongs to the main frame, which lives as long as the program, and to
     // no window before the frame is there. The window active when a box comes up may
     // be a dialog that has just closed: its release, still pending, runs in the

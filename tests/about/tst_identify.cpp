@@ -77,7 +77,7 @@ void IdentifyTest::splashSlidesUpRestsAndHandsOver()
     // and the panel stops where it stands.
     int top = 3468;
     for (const char* name : {"frmIdentify", "picAuxiliary", "Picture2", "lblID(0)", "lblID(6)", "lblID(12)"}) {
-        splash.EffectTimer().setInterval(50);
+        splash.setPhase(frmIdentify::SplashPhase::Slide);
         for (int step = 0; step < 8; ++step, top -= 25)
             splash.EffectTimer_Timer();
         QTest::mouseClick(QString(name) == "frmIdentify" ? &splash : control(name), Qt::LeftButton, {}, QPoint(2, 2));
@@ -85,7 +85,7 @@ void IdentifyTest::splashSlidesUpRestsAndHandsOver()
         QCOMPARE(panelTop(), top);
     }
 
-    splash.EffectTimer().setInterval(50);
+    splash.setPhase(frmIdentify::SplashPhase::Slide);
     for (; top > 68; top -= 25)
         splash.EffectTimer_Timer();
     QCOMPARE(panelTop(), 68);
@@ -130,7 +130,7 @@ void IdentifyTest::keysDuringTheSplashShortenIt()
     // The keys reach the window itself, or the hidden "&OK" once the window is active.
     QTest::keyClick(&splash, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
     QCOMPARE(splash.EffectTimer().interval(), 1000);
-    splash.EffectTimer().setInterval(50);
+    splash.setPhase(frmIdentify::SplashPhase::Slide);
     QVERIFY(QTest::qWaitForWindowActive(&splash));
     QCOMPARE(splash.focusWidget(), control("cmdClose"));
     const int top = panelTop();
