@@ -1,5 +1,6 @@
 #include "frmIntroduction.h"
 
+#include "IntroductionKeys.h"
 #include "RunControl.h"
 #include "frmCollisionOptions.h"
 
@@ -50,6 +51,7 @@ frmIntroduction::frmIntroduction(CollisionSetup& setup, FluidParameters& fluid) 
     FormLayout::fixSize(this, ClientWidth, ClientHeight);
     createControls();
     installHints();
+    IntroductionKeys::install(cmdCommand, txtUnit, txtPage, HScrSimulationDelay, picIntroduction, txtIntro);
     GoToFirstPage();
     RestoreAllDefaults(m_setup, m_fluid, PictureBackColor());
     m_experiment->InitialiseCollision();
