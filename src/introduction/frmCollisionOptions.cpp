@@ -5,6 +5,7 @@
 #include "model/CollisionSetup.h"
 #include "widgets/FormLayout.h"
 #include "widgets/HandlerGuard.h"
+#include "widgets/KeyboardAccess.h"
 #include "widgets/OptionsWidgets.h"
 #include "widgets/StatusHints.h"
 #include "widgets/TypingLimit.h"
@@ -79,6 +80,7 @@ frmCollisionOptions::frmCollisionOptions(CollisionSetup& setup, int32_t pictureB
     createColorFrame();
     createCommandButtons();
     placeCommandButtons();
+    nameControls();
     ShowCurrentValues();
     ArrangeForPage();
 }
@@ -403,4 +405,30 @@ void frmCollisionOptions::ShowDefaultValues()
     showColors({setup.DefaultBodyColor[1], setup.DefaultBodyColor[2], setup.DefaultVelocityColor,
         setup.DefaultForceColor, setup.DefaultMomentumColor});
     showCollisionKind(0, CollisionSetup::Direction::Central, CollisionSetup::Elasticity::Elastic);
+}
+
+void frmCollisionOptions::nameControls()
+{
+    const std::array<const char*, KindCount> fields = {
+        QT_TR_NOOP("Mass of body %1 (kg)"),
+        QT_TR_NOOP("Radius of body %1 (m)"),
+        QT_TR_NOOP("Position x of body %1 (m)"),
+        QT_TR_NOOP("Position y of body %1 (m)"),
+        QT_TR_NOOP("Velocity x of body %1 (m/s)"),
+        QT_TR_NOOP("Velocity y of body %1 (m/s)"),
+    };
+    for (int kind = 0; kind < KindCount; ++kind)
+        for (int i = 0; i < 2; ++i)
+            KeyboardAccess::name(field(kind, i), tr(fields[size_t(kind)]).arg(i + 1));
+    const std::array<QString, 4> colours = {tr("Colour of body 1"), tr("Colour of body 2"),
+        tr("Colour of the velocities"), tr("Colour of the forces")};
+    for (int i = 0; i < 4; ++i)
+        KeyboardAccess::name(cmdColorSelection[size_t(i)], colours[size_t(i)]);
+    // "Velocity" and "Force" are both a graph and a vector.
+    KeyboardAccess::name(chkGraphS, tr("Distance graph"));
+    KeyboardAccess::name(chkGraphU, tr("Velocity graph"));
+    KeyboardAccess::name(chkGraphF, tr("Force graph"));
+    KeyboardAccess::name(chkShowVelocities, tr("Velocity vectors"));
+    KeyboardAccess::name(chkShowForces, tr("Force vectors"));
+    KeyboardAccess::name(chkShowMomenta, tr("Momentum vectors"));
 }

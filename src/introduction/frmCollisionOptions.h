@@ -56,6 +56,8 @@ private:
     void createModelFrame();
     void createColorFrame();
     void placeCommandButtons();
+    // The names a screen reader announces for the fields, switches and colour buttons.
+    void nameControls();
     QGroupBox* createFrame(const char* name, const QString& caption, int left, int top, int width, int height);
     QCheckBox* createCheck(QWidget* parent, const char* name, const QString& caption, int left, int top, int width);
 

@@ -1,6 +1,7 @@
 #include "frmIntroduction.h"
 
 #include "CollisionLab.h"
+#include "IntroductionKeys.h"
 #include "RunControl.h"
 #include "frmCollisionOptions.h"
 
@@ -51,6 +52,7 @@ frmIntroduction::frmIntroduction(CollisionSetup& setup, FluidParameters& fluid) 
     FormLayout::fixSize(this, ClientWidth, ClientHeight);
     createControls();
     installHints();
+    IntroductionKeys::install(cmdCommand, txtUnit, txtPage, HScrSimulationDelay, picIntroduction, txtIntro);
     GoToFirstPage();
     RestoreAllDefaults(m_setup, m_fluid, PictureBackColor());
     m_experiment->InitialiseCollision();

@@ -7,8 +7,10 @@
 #include "core/Twips.h"
 #include "widgets/OptionsWidgets.h"
 #include "widgets/FormLayout.h"
+#include "widgets/KeyboardAccess.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QFont>
 #include <QGroupBox>
 #include <QLabel>
@@ -100,6 +102,7 @@ void MicroViewDesign::buildControls(QWidget* form)
     buildCheckBoxes(form);
     buildBars(form);
     buildButtons(form);
+    buildKeyboardAccess();
 }
 
 void MicroViewDesign::buildSamplePictures(QWidget* form)
@@ -239,4 +242,29 @@ void MicroViewDesign::buildButtons(QWidget* form)
     }
     cmdCommand[0]->setToolTip(tr("Click to exit"));
     cmdCommand[2]->setToolTip(tr("Click to restart calculations of mean force values"));
+}
+
+void MicroViewDesign::buildKeyboardAccess()
+{
+    const auto text = [](const char* source) { return QCoreApplication::translate("frmMicroView", source); };
+    const std::array<std::pair<QScrollBar*, QString>, 6> bars = {{
+        {HScrNoOfMolecules[0], text("Number of molecules along x")},
+        {HScrNoOfMolecules[1], text("Number of molecules along y")},
+        {HScrMass, text("Mass of a molecule")},
+        {HScrRadius, text("Radius of a molecule")},
+        {HScrdt, text("Time step of the simulation")},
+        {HScrTemp, text("Temperature")},
+    }};
+    for (const auto& [bar, name] : bars)
+        KeyboardAccess::focusableBar(bar, name);
+    const std::array<QString, 3> walls = {text("Molecules at the left wall"), text("Molecules at the right wall"),
+        text("Molecules at the top wall")};
+    for (int i = 0; i < 3; ++i)
+        KeyboardAccess::describePicture(picDraw[i], walls[i]);
+    KeyboardAccess::describePicture(picMacroView, text("The balloon and the direction the gas pushes it"));
+    KeyboardAccess::describePicture(picForceXIndicator, text("Horizontal force on the balloon"));
+    KeyboardAccess::describePicture(picForceYIndicator, text("Vertical force on the balloon"));
+    // Tab follows the buttons from top to bottom.
+    QWidget::setTabOrder(cmdCommand[1], cmdCommand[2]);
+    QWidget::setTabOrder(cmdCommand[2], cmdCommand[0]);
 }

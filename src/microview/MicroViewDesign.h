@@ -74,4 +74,6 @@ private:
     void buildBars(QWidget* form);
     void buildCheckBoxes(QWidget* form);
     void buildButtons(QWidget* form);
+    // Focus, arrow keys and names of the bars, descriptions of the pictures, Tab order.
+    void buildKeyboardAccess();
 };

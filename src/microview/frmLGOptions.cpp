@@ -5,6 +5,7 @@
 #include "model/FluidParameters.h"
 #include "widgets/FormLayout.h"
 #include "widgets/HandlerGuard.h"
+#include "widgets/KeyboardAccess.h"
 #include "widgets/OptionsWidgets.h"
 #include "widgets/StatusHints.h"
 #include "widgets/TypingLimit.h"
@@ -45,6 +46,7 @@ frmLGOptions::frmLGOptions(FluidParameters& fluid, int16_t page) : m_fluid(fluid
     useColorChooser(CMDColors);
     createControls();
     installHints();
+    nameControls();
     ShowCurrentValues();
     ArrangeForPage();
 }
@@ -182,4 +184,12 @@ void frmLGOptions::txtNoOfColumns_Change()
     const bool valid = IsValidNumber(WholeNumberFlags, txtNoOfColumns->text(), MaxColumns);
     showValidity(txtNoOfColumns, valid);
     MarkFieldValidity(FieldColumns, valid);
+}
+
+void frmLGOptions::nameControls()
+{
+    KeyboardAccess::name(txtNoOfRows, tr("Number of rows of molecules"));
+    KeyboardAccess::name(txtNoOfColumns, tr("Number of columns of molecules"));
+    KeyboardAccess::name(cmdColorSelection[0], tr("Colour of the first kind of molecules"));
+    KeyboardAccess::name(cmdColorSelection[1], tr("Colour of the second kind of molecules"));
 }

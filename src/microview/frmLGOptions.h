@@ -46,6 +46,8 @@ private:
     void createColorRow(int index, const QString& caption, int top);
     void placeCommandButtons(int lift);
     void installHints();
+    // The names a screen reader announces for the fields and colour buttons.
+    void nameControls();
     void ArrangeForPage();
 
     void ShowCurrentValues() override;

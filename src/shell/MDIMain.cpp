@@ -3,6 +3,7 @@
 #include "Forms.h"
 #include "GlobDef.h"
 #include "widgets/HandlerGuard.h"
+#include "widgets/KeyboardAccess.h"
 
 #include "about/frmIdentify.h"
 #include "core/Twips.h"
@@ -10,6 +11,7 @@
 #include "macroview/frmMacroView.h"
 #include "microview/frmMicroView.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMdiArea>
@@ -38,6 +40,7 @@ MDIMain::MDIMain()
     layout->addWidget(picStatusLine);
     setCentralWidget(central);
     buildMenus();
+    buildKeyboard();
 }
 
 void MDIMain::buildStatusLine(QWidget* parent)
@@ -78,6 +81,25 @@ void MDIMain::buildMenus()
         mnuHelpItem[i] = addItem(mnuHelp, "mnuHelpItem", i, help[i]);
         connect(mnuHelpItem[i], &QAction::triggered, this, [this, i] { mnuHelpItem_Click(i); });
     }
+}
+
+void MDIMain::buildKeyboard()
+{
+    KeyboardAccess::addMnemonics(menuBar());
+    // Ctrl+Q is "Exit", with its question; Ctrl+W closes the active view as its
+    // close box does.
+    mnuContentsItem[4]->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    // A child window's own menu closes it with Ctrl+W where the desktop says so;
+    // a second shortcut there would make the key ambiguous and do nothing.
+    const QKeySequence ctrlW(Qt::CTRL | Qt::Key_W);
+    if (!QKeySequence::keyBindings(QKeySequence::Close).contains(ctrlW)) {
+        auto* closeView = new QAction(this);
+        closeView->setObjectName("actCloseView");
+        closeView->setShortcut(ctrlW);
+        addAction(closeView);
+        connect(closeView, &QAction::triggered, m_mdiArea, &QMdiArea::closeActiveSubWindow);
+    }
+    KeyboardAccess::name(m_mdiArea, tr("Open views"));
 }
 
 void MDIMain::mnuContentsItem_Click(int Index)

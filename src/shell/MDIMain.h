@@ -45,6 +45,8 @@ protected:
 
 private:
     void buildMenus();
+    // Mnemonics, shortcuts and names for keyboard and screen-reader use.
+    void buildKeyboard();
     void buildStatusLine(QWidget* parent);
     QAction* addItem(QMenu* menu, const QString& name, int index, const QString& caption);
     bool closeChildWindows();

@@ -24,6 +24,8 @@ void ParameterDialog::createCommandButtons()
             cmdCommand[i], &QPushButton::clicked, this, [this, i] { RunGuarded([this, i] { cmdCommand_Click(i); }); });
         onMouseMove(cmdCommand[i], [i] { ShowOptionsButtonHint(int16_t(i)); });
     }
+    // Enter in any field accepts, as "Ok" does (Escape cancels).
+    cmdCommand[Ok]->setDefault(true);
 }
 
 int ParameterDialog::addColorChoice(QPushButton* button, QLabel* caption, QLabel* swatch)

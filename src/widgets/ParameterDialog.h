@@ -51,7 +51,8 @@ protected:
     // Writes the default values into the controls.
     virtual void ShowDefaultValues() = 0;
 
-    // Makes the three buttons (not yet placed), with their clicks and hints.
+    // Makes the three buttons (not yet placed), with their clicks and hints; "Ok"
+    // is the default button.
     void createCommandButtons();
 
     // The chooser the colour choices open.

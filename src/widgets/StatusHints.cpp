@@ -34,6 +34,10 @@ StatusHints& StatusHints::instance()
 void StatusHints::install(QWidget* control, const QString& hint)
 {
     control->setProperty(HintProperty, hint);
+    // The hint also shows beside the pointer, where the learner looks; a window's
+    // own hint stays in the status line only, or it would cover every control.
+    if (!control->isWindow() && !hint.isEmpty())
+        control->setToolTip(hint);
     control->setMouseTracking(true);
     control->installEventFilter(&instance());
 }

@@ -15,7 +15,7 @@ class StatusHints : public QObject
     Q_OBJECT
 
 public:
-    // Gives a control its hint.
+    // Gives a control its hint, which is also its tooltip (a window's own hint is not).
     static void install(QWidget* control, const QString& hint);
 
 protected:
