@@ -1,3 +1,4 @@
+#include "LineRecorder.h"
 #include "WindowChecks.h"
 
 #include "canvas/ImageCanvas.h"
@@ -19,38 +20,6 @@ constexpr int16_t AboveView = 1;
 constexpr int16_t SideView = 2;
 using Direction = CollisionSetup::Direction;
 using Elasticity = CollisionSetup::Elasticity;
-
-// A picture one device unit per twip that keeps the lines drawn on it.
-class LineRecorder : public Canvas
-{
-public:
-    LineRecorder()
-    {
-        setDeviceSize(4575, 4935);
-        setScale(0, 0, 4575, 4935);
-    }
-
-    // The signed length of the shaft that starts at (cx, cy) along x or up; 0 for none.
-    float shaft(float cx, float cy, int16_t component) const
-    {
-        for (const auto& l : lines)
-            if (std::abs(l[0] - int(cx)) <= 1 && std::abs(l[1] - int(cy)) <= 1
-                && (component == 1 ? l[3] == l[1] && l[2] != l[0] : l[2] == l[0] && l[3] != l[1]))
-                return component == 1 ? float(l[2] - l[0]) : float(l[1] - l[3]);
-        return 0;
-    }
-
-protected:
-    void clearDevice() override { lines.clear(); }
-    void segment(int32_t x1, int32_t y1, int32_t x2, int32_t y2, int32_t) override { lines.push_back({x1, y1, x2, y2}); }
-    void box(int32_t, int32_t, int32_t, int32_t, int32_t) override {}
-    void disc(double, double, double, int32_t) override {}
-    void dot(int32_t, int32_t, int32_t) override {}
-    void polygon(const std::vector<DevicePoint>&, int32_t) override {}
-
-private:
-    std::vector<std::array<int32_t, 4>> lines;
-};
 
 // The scene of one page set up the way the introduction does it.
 void setUp(Canvas& canvas, CollisionSetup& setup, CollisionState& state, CollisionScene& scene, int16_t page)
