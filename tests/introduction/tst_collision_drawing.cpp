@@ -1,4 +1,5 @@
 #include "LineRecorder.h"
+#include "NearCheck.h"
 #include "WindowChecks.h"
 
 #include "canvas/ImageCanvas.h"
@@ -10,8 +11,6 @@
 #include <QtTest>
 
 #include <cmath>
-
-#define QNEAR(actual, expected, tolerance) QVERIFY(std::fabs(double(actual) - double(expected)) <= (tolerance))
 
 namespace {
 

@@ -1,3 +1,4 @@
+#include "NearCheck.h"
 #include "core/ScopedRandomSequence.h"
 #include "core/SharedRandom.h"
 #include "model/CollisionState.h"
@@ -5,10 +6,6 @@
 #include <QtTest>
 
 #include <cmath>
-
-#define QNEAR(actual, expected, tolerance)                                                        \
-    QVERIFY2(std::fabs(double(actual) - double(expected)) <= (tolerance),                          \
-             qPrintable(QString("%1 = %2, expected %3").arg(#actual).arg(actual).arg(expected)))
 
 namespace {
 

@@ -1,3 +1,4 @@
+#include "NearCheck.h"
 #include "core/ScopedRandomSequence.h"
 #include "core/SharedRandom.h"
 #include "model/CollisionBalance.h"
@@ -9,10 +10,6 @@
 #include <QtTest>
 
 #include <cmath>
-
-#define QNEAR(actual, expected, tolerance)                                                        \
-    QVERIFY2(std::fabs(double(actual) - double(expected)) <= (tolerance),                          \
-             qPrintable(QString("%1 = %2, expected %3").arg(#actual).arg(double(actual)).arg(double(expected))))
 
 namespace {
 
