@@ -2,6 +2,7 @@
 // screen): its pictures are drawn at twice the resolution, show the same figures
 // as at the ordinary size, and the physics does not notice.
 
+#include "SampleSetup.h"
 #include "widgets/CanvasWidget.h"
 #include "canvas/Rgb.h"
 #include "core/ScopedRandomSequence.h"
@@ -34,20 +35,8 @@ SampleRun runSample(ImageCanvas& canvas, int16_t wall, bool filled)
 {
     ScopedRandomSequence sequence;
     canvas.setScale(0, 0, 1905, 1785);
-    canvas.setDrawMode(Canvas::XorPen);
     Gas gas;
-    gas.setCanvas(&canvas);
-    gas.setWall(wall);
-    gas.setEquilibriumTemperature(165);
-    const float coords[] = {canvas.ScaleWidth() / 3, 2 * canvas.ScaleWidth() / 3, canvas.ScaleHeight() / 3};
-    gas.setWallCoord(coords[wall]);
-    gas.setMoleculesMass(10);
-    gas.setRadius(70);
-    gas.setTemperature(293);
-    gas.setTimeStep(0.1f);
-    gas.setColumnsOfMolecules(5);
-    gas.setRowsOfMolecules(5);
-    gas.InitialiseParticles();
+    setUpLikeTheView(gas, canvas, wall, 5);
     gas.setFilledMolecules(filled);
     gas.setLeaveTrail(true);
     gas.setGridOn(true);

@@ -1,3 +1,4 @@
+#include "SampleSetup.h"
 #include "canvas/ImageCanvas.h"
 #include "canvas/Rgb.h"
 #include "core/RunTimeError.h"
@@ -29,23 +30,10 @@ void setUpBox(Gas& gas, ImageCanvas& canvas, QRectF box, int16_t wall, float wal
     gas.InitialiseParticles();
 }
 
-// A square lattice with the microscopic view's settings on a picture of its size
-// (127 x 119 pixels, 1905 x 1785 twips), the wall line one third in.
-void setUpLikeTheView(Gas& gas, ImageCanvas& canvas, int16_t wall, int16_t size)
+// A square lattice as the microscopic view lays it out, drawn.
+void setUpAndDrawLikeTheView(Gas& gas, ImageCanvas& canvas, int16_t wall, int16_t size)
 {
-    canvas.setDrawMode(Canvas::XorPen);
-    gas.setCanvas(&canvas);
-    gas.setWall(wall);
-    gas.setEquilibriumTemperature(165);
-    const float coords[] = {canvas.ScaleWidth() / 3, 2 * canvas.ScaleWidth() / 3, canvas.ScaleHeight() / 3};
-    gas.setWallCoord(coords[wall]);
-    gas.setMoleculesMass(10);
-    gas.setRadius(70);
-    gas.setTemperature(293);
-    gas.setTimeStep(0.1f);
-    gas.setColumnsOfMolecules(size);
-    gas.setRowsOfMolecules(size);
-    gas.InitialiseParticles();
+    setUpLikeTheView(gas, canvas, wall, size);
     gas.DrawGas();
 }
 
@@ -253,7 +241,7 @@ private slots:
             ScopedRandomSequence sequence;
             ImageCanvas canvas(127, 119);
             Gas gas;
-            setUpLikeTheView(gas, canvas, wall, 3);
+            setUpAndDrawLikeTheView(gas, canvas, wall, 3);
             QCOMPARE(canvas.pixelColor(grey[wall].x(), grey[wall].y()), Gas::WallColor);
             // Where the face crosses the box outline the exclusive-or pen mixes them.
             QCOMPARE(canvas.pixelColor(face[wall].x(), face[wall].y()), wall == 1 ? 0x373737 : 0);
@@ -334,7 +322,7 @@ private slots:
             ScopedRandomSequence sequence;
             ImageCanvas canvas(127, 119);
             Gas gas;
-            setUpLikeTheView(gas, canvas, wall, 5);
+            setUpAndDrawLikeTheView(gas, canvas, wall, 5);
             float sums[4] = {};
             for (int step = 0; step < 10000; ++step)
                 gas.ShowNextSnapshot(sums[0], sums[1], sums[2], sums[3]);
