@@ -34,8 +34,10 @@ bench: configure
 	@bash bench/desktop_figures.sh $(BUILD)
 
 # The whole suite again in a build with AddressSanitizer and UndefinedBehaviorSanitizer.
+# Warnings stay warnings here: the sanitizers' instrumentation makes the compiler
+# see bounds it cannot prove on code that the plain build compiles cleanly.
 sanitize: deps
-	@cmake -S . -B $(BUILD)-asan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFLOATRIX_SANITIZE=ON -DFLOATRIX_WERROR=$(WERROR) > /dev/null
+	@cmake -S . -B $(BUILD)-asan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFLOATRIX_SANITIZE=ON -DFLOATRIX_WERROR=OFF > /dev/null
 	@cmake --build $(BUILD)-asan -j $(JOBS)
 	@cd $(BUILD)-asan && ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
 

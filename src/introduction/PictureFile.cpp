@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QtEndian>
 
+#include <array>
 #include <cstdlib>
 
 namespace {
@@ -15,9 +15,21 @@ constexpr qint64 InfoHeaderSize = 40;
 constexpr quint32 Uncompressed = 0;
 constexpr quint32 BitFields = 3;
 
-quint32 readU32(const QByteArray& bytes, int offset)
+using BmpHeader = std::array<unsigned char, FileHeaderSize + InfoHeaderSize>;
+
+// A little-endian field of the header, read byte by byte from a buffer whose
+// size is fixed, so no read can run past it.
+quint32 readField(const BmpHeader& header, std::size_t offset, std::size_t bytes)
 {
-    return qFromLittleEndian<quint32>(bytes.constData() + offset);
+    quint32 value = 0;
+    for (std::size_t i = bytes; i-- > 0;)
+        value = (value << 8) | header.at(offset + i);
+    return value;
+}
+
+quint32 readU32(const BmpHeader& header, std::size_t offset)
+{
+    return readField(header, offset, 4);
 }
 
 } // namespace
@@ -57,8 +69,8 @@ bool PictureFile::bmpComplete(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    const QByteArray header = file.read(FileHeaderSize + InfoHeaderSize);
-    if (header.size() < FileHeaderSize + InfoHeaderSize)
+    BmpHeader header{};
+    if (file.read(reinterpret_cast<char*>(header.data()), qint64(header.size())) < qint64(header.size()))
         return false;
     const quint32 pixelOffset = readU32(header, 10);
     const quint32 infoSize = readU32(header, 14);
@@ -66,7 +78,7 @@ bool PictureFile::bmpComplete(const QString& path)
         return true; // an old OS/2 header: the reader's own checks must do
     const qint64 width = qint32(readU32(header, 18));
     const qint64 height = std::llabs(qint32(readU32(header, 22)));
-    const qint64 bitsPerPixel = qFromLittleEndian<quint16>(header.constData() + 28);
+    const qint64 bitsPerPixel = readField(header, 28, 2);
     const quint32 compression = readU32(header, 30);
     const qint64 imageSize = readU32(header, 34);
     qint64 pixelBytes = imageSize;
