@@ -36,18 +36,19 @@ void install(const std::array<QPushButton*, 10>& buttons, QLineEdit* unit, QLine
         });
 
     const std::array<std::pair<int, QString>, 4> arrows = {{
-        {Form::PreviousUnitButton, text("Previous unit")},
-        {Form::PreviousPageButton, text("Previous page")},
-        {Form::NextPageButton, text("Next page")},
-        {Form::NextUnitButton, text("Next unit")},
+        {Form::PreviousUnitButton, text(QT_TRANSLATE_NOOP("frmIntroduction", "Previous unit"))},
+        {Form::PreviousPageButton, text(QT_TRANSLATE_NOOP("frmIntroduction", "Previous page"))},
+        {Form::NextPageButton, text(QT_TRANSLATE_NOOP("frmIntroduction", "Next page"))},
+        {Form::NextUnitButton, text(QT_TRANSLATE_NOOP("frmIntroduction", "Next unit"))},
     }};
     for (const auto& [index, name] : arrows)
         KeyboardAccess::name(buttons[size_t(index)], name);
-    KeyboardAccess::name(unit, text("Unit number"));
-    KeyboardAccess::name(page, text("Page number"));
-    KeyboardAccess::name(explanation, text("Explanation of the page"));
-    KeyboardAccess::focusableBar(delay, text("Delay of the simulation"));
-    KeyboardAccess::describePicture(picture, text("The page's picture, with its experiment when it has one"));
+    KeyboardAccess::name(unit, text(QT_TRANSLATE_NOOP("frmIntroduction", "Unit number")));
+    KeyboardAccess::name(page, text(QT_TRANSLATE_NOOP("frmIntroduction", "Page number")));
+    KeyboardAccess::name(explanation, text(QT_TRANSLATE_NOOP("frmIntroduction", "Explanation of the page")));
+    KeyboardAccess::focusableBar(delay, text(QT_TRANSLATE_NOOP("frmIntroduction", "Delay of the simulation")));
+    KeyboardAccess::describePicture(
+        picture, text(QT_TRANSLATE_NOOP("frmIntroduction", "The page's picture, with its experiment when it has one")));
 
     // The delay bar lies between "Options" and "Exit".
     QWidget::setTabOrder(buttons[Form::OptionsButton], delay);

@@ -2,12 +2,12 @@
 
 #include "DecorShape.h"
 
-#include "widgets/CanvasWidget.h"
 #include "canvas/Rgb.h"
 #include "core/Twips.h"
-#include "widgets/OptionsWidgets.h"
+#include "widgets/CanvasWidget.h"
 #include "widgets/FormLayout.h"
 #include "widgets/KeyboardAccess.h"
+#include "widgets/OptionsWidgets.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -28,8 +28,7 @@ const int32_t White = RGB(255, 255, 255);
 const int32_t Red = RGB(255, 0, 0);
 const int32_t Black = RGB(0, 0, 0);
 
-QGroupBox* frame(QWidget* parent, const QString& name, const QString& caption, int left, int top, int width,
-    int height)
+QGroupBox* frame(QWidget* parent, const QString& name, const QString& caption, int left, int top, int width, int height)
 {
     auto* box = new QGroupBox(caption, parent);
     box->setObjectName(name);
@@ -37,8 +36,8 @@ QGroupBox* frame(QWidget* parent, const QString& name, const QString& caption, i
     return box;
 }
 
-QLabel* label(QWidget* parent, const QString& name, const QString& caption, const QString& hint, int left,
-    int top, int width)
+QLabel* label(
+    QWidget* parent, const QString& name, const QString& caption, const QString& hint, int left, int top, int width)
 {
     auto* text = new QLabel(caption, parent);
     text->setObjectName(name);
@@ -50,8 +49,8 @@ QLabel* label(QWidget* parent, const QString& name, const QString& caption, cons
 
 // A picture area whose surface already has its design size, so that the window
 // can lay out and draw its samples before it is first shown.
-CanvasWidget* picture(QWidget* parent, const QString& name, const QString& hint, int left, int top, int width,
-    int height)
+CanvasWidget* picture(
+    QWidget* parent, const QString& name, const QString& hint, int left, int top, int width, int height)
 {
     auto* area = new CanvasWidget(parent);
     area->setObjectName(name);
@@ -76,8 +75,8 @@ QScrollBar* bar(QWidget* parent, const QString& name, int left, int top, int min
     return scroll;
 }
 
-QCheckBox* checkBox(QWidget* parent, const QString& name, const QString& caption, const QString& hint, int left,
-    int top, int width)
+QCheckBox* checkBox(
+    QWidget* parent, const QString& name, const QString& caption, const QString& hint, int left, int top, int width)
 {
     auto* box = new QCheckBox(caption, parent);
     box->setObjectName(name);
@@ -176,19 +175,19 @@ void MicroViewDesign::buildBalloon()
     Floatrix->setBorder(RGB(128, 128, 128), 1);
     Floatrix->setFill(RGB(192, 192, 192));
     const std::array<QPoint, 4> lenses = {QPoint(), QPoint(600, 840), QPoint(1560, 840), QPoint(960, 480)};
-    const std::array<QLine, 4> handles = {
-        QLine(), QLine(360, 1140, 600, 1080), QLine(1905, 1065, 2145, 1125), QLine(1305, 705, 1545, 765)};
+    const std::array<QLine, 4> handles
+        = {QLine(), QLine(360, 1140, 600, 1080), QLine(1905, 1065, 2145, 1125), QLine(1305, 705, 1545, 765)};
     const std::array<QPoint, 4> markers = {QPoint(), QPoint(750, 915), QPoint(1710, 915), QPoint(1110, 555)};
     for (int i = 1; i <= 3; ++i) {
-        Handle[i] = DecorShape::line(picMacroView, indexedName("Handle", i), handles[i].x1(), handles[i].y1(),
-            handles[i].x2(), handles[i].y2());
+        Handle[i] = DecorShape::line(
+            picMacroView, indexedName("Handle", i), handles[i].x1(), handles[i].y1(), handles[i].x2(), handles[i].y2());
         Handle[i]->setBorder(Black, 4);
-        Magnifier[i] = DecorShape::shape(picMacroView, indexedName("Magnifier", i), Kind::Circle, lenses[i].x(),
-            lenses[i].y(), 360, 345);
+        Magnifier[i] = DecorShape::shape(
+            picMacroView, indexedName("Magnifier", i), Kind::Circle, lenses[i].x(), lenses[i].y(), 360, 345);
         Magnifier[i]->setBorder(Black, 3);
         Magnifier[i]->setFill(RGB(128, 255, 255));
-        mirror[i] = DecorShape::shape(picMacroView, indexedName("mirror", i), Kind::RoundedRectangle, markers[i].x(),
-            markers[i].y(), 120, 120);
+        mirror[i] = DecorShape::shape(
+            picMacroView, indexedName("mirror", i), Kind::RoundedRectangle, markers[i].x(), markers[i].y(), 120, 120);
         mirror[i]->setBorder(RGB(255, 128, 0), 1);
         mirror[i]->setFill(RGB(255, 128, 0));
     }
@@ -200,8 +199,8 @@ void MicroViewDesign::buildBars(QWidget* form)
     for (int i = 0; i < 2; ++i) {
         const int top = i == 0 ? 6000 : 6360;
         HScrNoOfMolecules[i] = bar(form, indexedName("HScrNoOfMolecules", i), 120, top, 1, 5, 5);
-        lblNoOfMolecules[i] =
-            label(form, indexedName("lblNoOfMolecules", i), QString(), latticeHints[i], 1320, top, 735);
+        lblNoOfMolecules[i]
+            = label(form, indexedName("lblNoOfMolecules", i), QString(), latticeHints[i], 1320, top, 735);
     }
     HScrMass = bar(form, "HScrMass", 2160, 6000, 1, 500, 1);
     lblMass = label(form, "lblMass", QString(), tr("Molecules' mass"), 3360, 6000, 735);
@@ -248,22 +247,26 @@ void MicroViewDesign::buildKeyboardAccess()
 {
     const auto text = [](const char* source) { return QCoreApplication::translate("frmMicroView", source); };
     const std::array<std::pair<QScrollBar*, QString>, 6> bars = {{
-        {HScrNoOfMolecules[0], text("Number of molecules along x")},
-        {HScrNoOfMolecules[1], text("Number of molecules along y")},
-        {HScrMass, text("Mass of a molecule")},
-        {HScrRadius, text("Radius of a molecule")},
-        {HScrdt, text("Time step of the simulation")},
-        {HScrTemp, text("Temperature")},
+        {HScrNoOfMolecules[0], text(QT_TRANSLATE_NOOP("frmMicroView", "Number of molecules along x"))},
+        {HScrNoOfMolecules[1], text(QT_TRANSLATE_NOOP("frmMicroView", "Number of molecules along y"))},
+        {HScrMass, text(QT_TRANSLATE_NOOP("frmMicroView", "Mass of a molecule"))},
+        {HScrRadius, text(QT_TRANSLATE_NOOP("frmMicroView", "Radius of a molecule"))},
+        {HScrdt, text(QT_TRANSLATE_NOOP("frmMicroView", "Time step of the simulation"))},
+        {HScrTemp, text(QT_TRANSLATE_NOOP("frmMicroView", "Temperature"))},
     }};
     for (const auto& [bar, name] : bars)
         KeyboardAccess::focusableBar(bar, name);
-    const std::array<QString, 3> walls = {text("Molecules at the left wall"), text("Molecules at the right wall"),
-        text("Molecules at the top wall")};
+    const std::array<QString, 3> walls = {text(QT_TRANSLATE_NOOP("frmMicroView", "Molecules at the left wall")),
+        text(QT_TRANSLATE_NOOP("frmMicroView", "Molecules at the right wall")),
+        text(QT_TRANSLATE_NOOP("frmMicroView", "Molecules at the top wall"))};
     for (int i = 0; i < 3; ++i)
         KeyboardAccess::describePicture(picDraw[i], walls[i]);
-    KeyboardAccess::describePicture(picMacroView, text("The balloon and the direction the gas pushes it"));
-    KeyboardAccess::describePicture(picForceXIndicator, text("Horizontal force on the balloon"));
-    KeyboardAccess::describePicture(picForceYIndicator, text("Vertical force on the balloon"));
+    KeyboardAccess::describePicture(
+        picMacroView, text(QT_TRANSLATE_NOOP("frmMicroView", "The balloon and the direction the gas pushes it")));
+    KeyboardAccess::describePicture(
+        picForceXIndicator, text(QT_TRANSLATE_NOOP("frmMicroView", "Horizontal force on the balloon")));
+    KeyboardAccess::describePicture(
+        picForceYIndicator, text(QT_TRANSLATE_NOOP("frmMicroView", "Vertical force on the balloon")));
     // Tab follows the buttons from top to bottom.
     QWidget::setTabOrder(cmdCommand[1], cmdCommand[2]);
     QWidget::setTabOrder(cmdCommand[2], cmdCommand[0]);

@@ -16,7 +16,7 @@ bool isBracketed(const QString& text)
     return text.isEmpty() || (text.startsWith('[') && text.endsWith(']'));
 }
 
-QStringList unbracketedTexts(QWidget& window, const std::function<QString(QWidget*)>& hintOf)
+QStringList shownTexts(QWidget& window, const std::function<QString(QWidget*)>& hintOf)
 {
     QStringList texts = {window.windowTitle(), hintOf(&window)};
     for (auto* control : window.findChildren<QWidget*>())
@@ -29,8 +29,13 @@ QStringList unbracketedTexts(QWidget& window, const std::function<QString(QWidge
         texts << frame->title();
     for (auto* pane : window.findChildren<QPlainTextEdit*>())
         texts << pane->toPlainText();
+    return texts;
+}
+
+QStringList unbracketedTexts(QWidget& window, const std::function<QString(QWidget*)>& hintOf)
+{
     QStringList unbracketed;
-    for (const QString& text : texts)
+    for (const QString& text : shownTexts(window, hintOf))
         if (!isBracketed(text))
             unbracketed << text;
     return unbracketed;
