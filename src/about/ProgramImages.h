@@ -13,7 +13,8 @@ public:
     // The program icon, the window icon of the main frame and the About box.
     static QIcon icon();
 
-    // The banner at the left of the splash's title panel, 103 x 189 pixels.
+    // The banner at the left of the splash's title panel, 103 x 189 pixels (drawn
+    // finer on a high-density screen).
     static QPixmap banner();
 
 private:

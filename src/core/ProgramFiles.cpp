@@ -4,10 +4,16 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 // The installed files, relative to the folder of the installed executable.
 constexpr auto SharedFolder = "../share/floatrix";
+
+// The finest drawing kept beside a picture.
+constexpr int FinestFactor = 3;
 
 } // namespace
 
@@ -27,4 +33,24 @@ QString ProgramFiles::folderFrom(const QString& programFolder, const QString& na
         return programFolder;
     const QString shared = QDir::cleanPath(QDir(programFolder).filePath(QString::fromLatin1(SharedFolder)));
     return QFileInfo(shared).isDir() ? shared : programFolder;
+}
+
+ProgramFiles::SharperPicture ProgramFiles::sharperPicture(const QString& path, double pixelRatio)
+{
+    if (pixelRatio <= 1.01)
+        return {};
+    const QFileInfo plain(path);
+    const auto drawn = [&plain](int factor) {
+        const QString name = QStringLiteral("%1@%2x.png").arg(plain.completeBaseName()).arg(factor);
+        const QString candidate = plain.dir().filePath(name);
+        return QFileInfo::exists(candidate) ? SharperPicture{candidate, factor} : SharperPicture{};
+    };
+    const int wanted = std::clamp(int(std::ceil(pixelRatio - 0.01)), 2, FinestFactor);
+    for (int factor = wanted; factor <= FinestFactor; ++factor)
+        if (SharperPicture found = drawn(factor); !found.path.isEmpty())
+            return found;
+    for (int factor = wanted - 1; factor >= 2; --factor)
+        if (SharperPicture found = drawn(factor); !found.path.isEmpty())
+            return found;
+    return {};
 }

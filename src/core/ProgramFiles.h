@@ -18,4 +18,17 @@ public:
 
     // The same search for an executable kept in programFolder.
     static QString folderFrom(const QString& programFolder, const QString& name);
+
+    // A picture drawn finer for screens with more device pixels to a pixel.
+    struct SharperPicture
+    {
+        QString path;   // empty when there is none to use
+        int factor = 1; // how many times finer it is drawn
+    };
+
+    // The finer drawing of the picture at path for a screen of the given pixel
+    // ratio: "name@2x.png" or "name@3x.png" beside it, the least fine one that is
+    // at least as fine as the screen (or the finest there is). None on a screen of
+    // ratio 1.
+    static SharperPicture sharperPicture(const QString& path, double pixelRatio);
 };

@@ -59,13 +59,10 @@ void LiquidPage::loadPicture(const QString& name)
         SetStatusLine(tr("The picture %1 %2: the vessel is shown without it").arg(name, file.problem()));
         return;
     }
-    QImage picture = file.image();
-    // The picture is drawn in device pixels: on a high-density screen it is
-    // enlarged to keep its place under the picture's twips.
+    // The picture is drawn in device pixels: on a high-density screen it is shown
+    // as many times larger, to keep its place under the picture's twips.
     const double ratio = m_canvas.DeviceWidth() * double(Twips::PerPixel) / m_canvas.ScaleWidth();
-    if (ratio > 1.01)
-        picture = picture.scaled(picture.size() * ratio);
-    m_canvas.setPicture(picture);
+    m_canvas.setPicture(file.atPixelRatio(ratio));
 }
 
 void LiquidPage::DrawLiquidPage()

@@ -1,5 +1,7 @@
 #include "PictureFile.h"
 
+#include "core/ProgramFiles.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -34,7 +36,7 @@ quint32 readU32(const BmpHeader& header, std::size_t offset)
 
 } // namespace
 
-PictureFile::PictureFile(const QString& path)
+PictureFile::PictureFile(const QString& path) : m_path(path)
 {
     if (!QFileInfo(path).isFile())
         return;
@@ -48,6 +50,22 @@ PictureFile::PictureFile(const QString& path)
         return;
     m_image = std::move(image);
     m_status = Status::Read;
+}
+
+QImage PictureFile::atPixelRatio(double ratio) const
+{
+    if (m_status != Status::Read || ratio <= 1.01)
+        return m_image;
+    const QSize shown = m_image.size() * ratio;
+    const ProgramFiles::SharperPicture sharper = ProgramFiles::sharperPicture(m_path, ratio);
+    QImage picture = m_image;
+    if (!sharper.path.isEmpty()) {
+        // A finer drawing of another picture's size is not this picture's.
+        const PictureFile finer(sharper.path);
+        if (finer.status() == Status::Read && finer.image().size() == m_image.size() * sharper.factor)
+            picture = finer.image();
+    }
+    return picture.size() == shown ? picture : picture.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 QString PictureFile::problem() const

@@ -12,6 +12,8 @@ private slots:
     void findsFilesBesideOrInstalled_data();
     void findsFilesBesideOrInstalled();
     void theRunningProgramReadsFromItsOwnFolder();
+    void choosesTheFinerDrawingForTheScreen_data();
+    void choosesTheFinerDrawingForTheScreen();
 };
 
 void ProgramFilesTest::findsFilesBesideOrInstalled_data()
@@ -48,6 +50,41 @@ void ProgramFilesTest::theRunningProgramReadsFromItsOwnFolder()
     const QString own = QCoreApplication::applicationDirPath();
     QCOMPARE(ProgramFiles::folder("pot_t2.bmp"), own);
     QCOMPARE(ProgramFiles::path("floatrixo.avi"), own + "/floatrixo.avi");
+}
+
+// A high-density screen gets the least fine drawing that is at least as fine as it,
+// else the finest there is; a plain screen none.
+void ProgramFilesTest::choosesTheFinerDrawingForTheScreen_data()
+{
+    QTest::addColumn<QList<int>>("drawn");
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<int>("factor"); // 0 for none
+
+    QTest::newRow("plain screen") << QList<int>{2, 3} << 1.0 << 0;
+    QTest::newRow("barely above plain") << QList<int>{2, 3} << 1.005 << 0;
+    QTest::newRow("one and a half") << QList<int>{2, 3} << 1.5 << 2;
+    QTest::newRow("double") << QList<int>{2, 3} << 2.0 << 2;
+    QTest::newRow("two and a half") << QList<int>{2, 3} << 2.5 << 3;
+    QTest::newRow("beyond the finest") << QList<int>{2, 3} << 4.0 << 3;
+    QTest::newRow("double, only @3x") << QList<int>{3} << 2.0 << 3;
+    QTest::newRow("triple, only @2x") << QList<int>{2} << 3.0 << 2;
+    QTest::newRow("none drawn") << QList<int>{} << 2.0 << 0;
+}
+
+void ProgramFilesTest::choosesTheFinerDrawingForTheScreen()
+{
+    QFETCH(QList<int>, drawn);
+    QFETCH(double, ratio);
+    QFETCH(int, factor);
+    QTemporaryDir folder;
+    const QDir root(folder.path());
+    for (int made : drawn) {
+        QFile file(root.filePath(QString("pot_t1@%1x.png").arg(made)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    const ProgramFiles::SharperPicture sharper = ProgramFiles::sharperPicture(root.filePath("pot_t1.bmp"), ratio);
+    QCOMPARE(sharper.factor, factor ? factor : 1);
+    QCOMPARE(sharper.path, factor ? root.filePath(QString("pot_t1@%1x.png").arg(factor)) : QString());
 }
 
 QTEST_GUILESS_MAIN(ProgramFilesTest)

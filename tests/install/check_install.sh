@@ -16,6 +16,7 @@ id=org.floatrix.Floatrix
 expected=(bin/floatrix
   share/floatrix/pot_t1.bmp share/floatrix/pot_t2.bmp share/floatrix/floatrixo.avi
   share/floatrix/floatrix.png share/floatrix/floatrix_banner.png
+  share/floatrix/pot_t1@2x.png share/floatrix/pot_t2@3x.png share/floatrix/floatrix_banner@2x.png
   share/applications/$id.desktop share/metainfo/$id.metainfo.xml
   share/icons/hicolor/scalable/apps/$id.svg)
 for size in 16 22 24 32 48 64 128 256; do

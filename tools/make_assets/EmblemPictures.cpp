@@ -50,19 +50,20 @@ void EmblemPictures::drawIcon(QPainter& painter, double size)
     balloon.draw(painter);
 }
 
-QImage EmblemPictures::banner()
+QImage EmblemPictures::banner(int pixelRatio)
 {
     constexpr int Width = 103;
     constexpr int Height = 189;
-    QImage image(Width, Height, QImage::Format_RGB32);
+    QImage image(Width * pixelRatio, Height * pixelRatio, QImage::Format_RGB32);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(pixelRatio, pixelRatio);
     QLinearGradient sky(0, 0, 0, Height);
     sky.setColorAt(0, QColor(12, 18, 58));
     sky.setColorAt(0.6, QColor(70, 62, 124));
     sky.setColorAt(0.88, QColor(236, 136, 88));
     sky.setColorAt(1, QColor(252, 200, 116));
-    painter.fillRect(image.rect(), sky);
+    painter.fillRect(QRectF(0, 0, Width, Height), sky);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(255, 250, 230, 200));
     const QPointF stars[] = {{12, 14}, {84, 22}, {30, 40}, {92, 58}, {8, 76}, {70, 8}, {50, 20}};

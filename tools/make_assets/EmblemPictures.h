@@ -18,7 +18,8 @@ public:
 
     // The banner beside the title texts: the balloon rising over the roofs at dusk,
     // 103 x 189 pixels.
-    static QImage banner();
+    // pixelRatio draws it that many times finer, for high-density screens.
+    static QImage banner(int pixelRatio = 1);
 
 private:
     static void drawIcon(QPainter& painter, double size);

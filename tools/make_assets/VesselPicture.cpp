@@ -19,12 +19,12 @@ QRectF ellipseAround(double y, double halfWidth)
 
 } // namespace
 
-QImage VesselPicture::draw(int liquidLevel, bool threeDimensional)
+QImage VesselPicture::draw(int liquidLevel, bool threeDimensional, int pixelRatio)
 {
-    QImage image(WidthTwips / 15, HeightTwips / 15, QImage::Format_RGB32);
+    QImage image(WidthTwips / 15 * pixelRatio, HeightTwips / 15 * pixelRatio, QImage::Format_RGB32);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(1.0 / 15, 1.0 / 15);
+    painter.scale(pixelRatio / 15.0, pixelRatio / 15.0);
     // The flat vessel stands on the bench's front edge; the round one, seen from a
     // little above, stands on the bench's top, whose back edge lies behind it.
     drawRoom(painter, threeDimensional ? InnerBottom - 100 : InnerBottom + Wall);

@@ -17,7 +17,9 @@ public:
 
     // The picture with the liquid's surface at the given height in twips; a
     // three-dimensional vessel shows the round rim and the surface as ellipses.
-    static QImage draw(int liquidLevel, bool threeDimensional);
+    // pixelRatio draws it that many times finer, for a screen with as many device
+    // pixels to a pixel.
+    static QImage draw(int liquidLevel, bool threeDimensional, int pixelRatio = 1);
 
 private:
     static void drawRoom(QPainter& painter, int benchTop);

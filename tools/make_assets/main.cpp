@@ -9,6 +9,7 @@
 #include <QImage>
 
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -53,6 +54,25 @@ bool writeThemeIcons(const QDir& folder)
     return ok;
 }
 
+// The vessel pictures and the banner drawn again two and three times finer, as
+// name@2x.png and name@3x.png: the program shows them on screens with that many
+// device pixels to a pixel instead of enlarging the plain ones.
+bool writeSharperPictures(const QDir& folder)
+{
+    bool ok = true;
+    for (const int ratio : {2, 3}) {
+        const QString suffix = QStringLiteral("@%1x.png").arg(ratio);
+        const std::pair<QString, QImage> pictures[] = {
+            {"pot_t1" + suffix, VesselPicture::draw(2100, false, ratio)},
+            {"pot_t2" + suffix, VesselPicture::draw(2600, true, ratio)},
+            {"floatrix_banner" + suffix, EmblemPictures::banner(ratio)},
+        };
+        for (const auto& [name, picture] : pictures)
+            ok = report(picture.save(folder.filePath(name), "PNG"), folder, qPrintable(name)) && ok;
+    }
+    return ok;
+}
+
 } // namespace
 
 // Draws the pictures and renders the film into the folder given as the only
@@ -73,5 +93,6 @@ int main(int argc, char* argv[])
     ok = report(EmblemPictures::banner().save(folder.filePath("floatrix_banner.png"), "PNG"), folder, "floatrix_banner.png") && ok;
     ok = report(writeFilm(folder), folder, "floatrixo.avi") && ok;
     ok = writeThemeIcons(folder) && ok;
+    ok = writeSharperPictures(folder) && ok;
     return ok ? 0 : 1;
 }
