@@ -4,6 +4,7 @@
 #include "GlobDef.h"
 #include "widgets/HandlerGuard.h"
 #include "widgets/KeyboardAccess.h"
+#include "widgets/ScreenFit.h"
 
 #include "about/frmIdentify.h"
 #include "core/Twips.h"
@@ -17,6 +18,8 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QShowEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -36,6 +39,9 @@ MDIMain::MDIMain()
     m_mdiArea = new QMdiArea(central);
     m_mdiArea->setObjectName("mdiArea");
     layout->addWidget(m_mdiArea, 1);
+    // A frame made smaller than its views (on a small screen) scrolls to them.
+    m_mdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_mdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     buildStatusLine(central);
     layout->addWidget(picStatusLine);
     setCentralWidget(central);
@@ -187,6 +193,15 @@ bool MDIMain::closeChildWindows()
         delete frame;
     }
     return true;
+}
+
+void MDIMain::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    // The frame lies wholly on its screen however far the program is scaled: at
+    // once, and again when the desktop has put its title bar and borders round it.
+    ScreenFit::fitToScreen(this);
+    QTimer::singleShot(0, this, [this] { ScreenFit::fitToScreen(this); });
 }
 
 void MDIMain::closeEvent(QCloseEvent* event)

@@ -32,8 +32,19 @@ public:
     QMdiArea* mdiArea() const { return m_mdiArea; }
 
     // The items of the Contents and Help menus, by their index.
-    enum ContentsItem { IntroductionItem = 0, MacroViewItem = 1, MicroViewItem = 2, ExitItem = 4 };
-    enum HelpItem { HelpContentsItem = 0, SearchItem = 1, AboutItem = 3 };
+    enum ContentsItem
+    {
+        IntroductionItem = 0,
+        MacroViewItem = 1,
+        MicroViewItem = 2,
+        ExitItem = 4
+    };
+    enum HelpItem
+    {
+        HelpContentsItem = 0,
+        SearchItem = 1,
+        AboutItem = 3
+    };
 
     // The menu handlers.
     void mnuContentsItem_Click(int Index);
@@ -41,6 +52,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

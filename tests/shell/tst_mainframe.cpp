@@ -7,16 +7,17 @@
 #include "microview/frmMicroView.h"
 #include "shell/Forms.h"
 #include "shell/GlobDef.h"
-#include "widgets/HandlerGuard.h"
 #include "shell/MDIMain.h"
+#include "widgets/HandlerGuard.h"
+#include "widgets/ScreenFit.h"
 #include "widgets/suppl.h"
 
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QtTest>
@@ -81,6 +82,9 @@ private slots:
     void childWindowsCentreAgainWhenRestored_data();
     void childWindowsCentreAgainWhenRestored();
     void aBoxAfterADialogClosesOutlivesTheDialog();
+    void aWindowIsFittedIntoTheFreeArea_data();
+    void aWindowIsFittedIntoTheFreeArea();
+    void theFrameLiesWhollyOnItsScreen();
 };
 
 void MainFrameTest::init()
@@ -317,6 +321,42 @@ void MainFrameTest::aBoxAfterADialogClosesOutlivesTheDialog()
     QCOMPARE(shown, QString("Simulation Results"));
     QVERIFY(!IsLoaded<frmCollisionOptions>());
     QVERIFY(intro.isVisible());
+}
+
+// A window with its frame is shrunk only as far as the free area needs, then moved
+// in only as far as needed.
+void MainFrameTest::aWindowIsFittedIntoTheFreeArea_data()
+{
+    QTest::addColumn<QRect>("wanted");
+    QTest::addColumn<QMargins>("frame");
+    QTest::addColumn<QRect>("fitted");
+    const QMargins none;
+    const QMargins decorated(4, 30, 4, 4);
+    // The free area throughout: 1600 x 1000 below a 40-pixel panel.
+    QTest::newRow("fits, left alone") << QRect(100, 100, 800, 600) << decorated << QRect(100, 100, 800, 600);
+    QTest::newRow("exactly fills the screen") << QRect(0, 40, 1600, 1000) << none << QRect(0, 40, 1600, 1000);
+    QTest::newRow("too tall at double size") << QRect(0, 40, 1600, 1200) << decorated << QRect(4, 70, 1592, 966);
+    QTest::newRow("off the right edge") << QRect(1200, 300, 800, 600) << none << QRect(800, 300, 800, 600);
+    QTest::newRow("under the panel") << QRect(50, 0, 800, 600) << decorated << QRect(50, 70, 800, 600);
+}
+
+void MainFrameTest::aWindowIsFittedIntoTheFreeArea()
+{
+    QFETCH(QRect, wanted);
+    QFETCH(QMargins, frame);
+    QTEST(ScreenFit::fitted(wanted, frame, QRect(0, 40, 1600, 1000)), "fitted");
+}
+
+// The frame keeps its 800 x 600 where the screen has room for it with its title bar
+// and borders, and shrinks onto a smaller screen (CTest runs this again at twice
+// the size, where the offscreen screen offers 400 x 300).
+void MainFrameTest::theFrameLiesWhollyOnItsScreen()
+{
+    MDIMain& frame = Form<MDIMain>();
+    const QRect free = frame.screen()->availableGeometry();
+    QTRY_VERIFY(free.contains(frame.frameGeometry()));
+    const QSize decoration = frame.frameGeometry().size() - frame.size();
+    QCOMPARE(frame.size(), QSize(800, 600).boundedTo(free.size() - decoration));
 }
 
 QTEST_MAIN(MainFrameTest)
