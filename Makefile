@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps configure build run test bench sanitize random-input translations install clean
+.PHONY: all deps configure build run test bench sanitize random-input translations screenshots install clean
 
 all: build
 
@@ -52,6 +52,14 @@ random-input: build
 # unfinished, for a translator to fill in with Qt Linguist).
 translations: configure
 	@cmake --build $(BUILD) --target update_translations
+
+# A scripted tour of every window, in English and in Greek, saving the screenshots
+# the README shows (docs/screenshots/en, docs/screenshots/el).
+screenshots: build
+	@for lang in en el; do \
+	  QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$(CURDIR)/$(BUILD)/xdg-runtime \
+	    $(BUILD)/bin/floatrix_tour --lang $$lang --out docs/screenshots/$$lang || exit 1; \
+	done
 
 # Installs into PREFIX (bin/, share/floatrix/, share/applications/, share/icons/,
 # share/metainfo/).

@@ -478,7 +478,7 @@
     </message>
     <message>
         <source>Save picture...</source>
-        <translation>Αποθήκευση εικόνας...</translation>
+        <translation>Εικόνα...</translation>
     </message>
     <message>
         <source>Save the picture as a PNG file (Ctrl+Shift+S)</source>
@@ -486,7 +486,7 @@
     </message>
     <message>
         <source>Save data...</source>
-        <translation>Αποθήκευση δεδομένων...</translation>
+        <translation>Δεδομένα...</translation>
     </message>
     <message>
         <source>Save every step of the last run as a CSV file (Ctrl+S)</source>
@@ -699,11 +699,11 @@
     </message>
     <message>
         <source>Distance</source>
-        <translation>Απόσταση</translation>
+        <translation>Θέση</translation>
     </message>
     <message>
         <source>Velocity</source>
-        <translation>Ταχύτητα</translation>
+        <translation>Ταχύτ.</translation>
     </message>
     <message>
         <source>Force</source>
@@ -727,7 +727,7 @@
     </message>
     <message>
         <source>Plastic</source>
-        <translation>Πλαστική</translation>
+        <translation>Πλαστ.</translation>
     </message>
     <message>
         <source>Πλαστική κρούση: τα σώματα κινούνται μαζί μετά την επαφή</source>
@@ -870,7 +870,7 @@
     </message>
     <message>
         <source>Physics in Traditional Games</source>
-        <translation>Η Φυσική στα Παραδοσιακά Παιχνίδια</translation>
+        <translation>Φυσική στα παραδοσιακά παιχνίδια</translation>
     </message>
     <message>
         <source>Floatrixon (Floatrix)</source>
@@ -1080,11 +1080,11 @@
     </message>
     <message>
         <source># of rows</source>
-        <translation>Πλήθος σειρών</translation>
+        <translation>Σειρές</translation>
     </message>
     <message>
         <source># of columns</source>
-        <translation>Πλήθος στηλών</translation>
+        <translation>Στήλες</translation>
     </message>
     <message>
         <source>First kind:</source>
@@ -1163,7 +1163,7 @@
     </message>
     <message>
         <source>Play</source>
-        <translation>Αναπαραγωγή</translation>
+        <translation>Προβολή</translation>
     </message>
     <message>
         <source>Play the film from where it stands</source>
@@ -1230,7 +1230,7 @@
     </message>
     <message>
         <source>Top Wall Calculations</source>
-        <translation>Υπολογισμοί πάνω τοιχώματος</translation>
+        <translation>Δυνάμεις πάνω</translation>
     </message>
     <message>
         <source>Calculations of Totals</source>
@@ -1238,11 +1238,11 @@
     </message>
     <message>
         <source>Left Wall Calculations</source>
-        <translation>Υπολογισμοί αριστερού τοιχώματος</translation>
+        <translation>Δυνάμεις αριστερά</translation>
     </message>
     <message>
         <source>Right Wall Calculations</source>
-        <translation>Υπολογισμοί δεξιού τοιχώματος</translation>
+        <translation>Δυνάμεις δεξιά</translation>
     </message>
     <message>
         <source>  Fx =</source>
@@ -1374,7 +1374,7 @@
     </message>
     <message>
         <source>Observe Molecule</source>
-        <translation>Παρατήρηση μορίου</translation>
+        <translation>Παρατήρηση</translation>
     </message>
     <message>
         <source>Check to observe a single molecules of the sample</source>
@@ -1394,7 +1394,7 @@
     </message>
     <message>
         <source>Clear history</source>
-        <translation>Καθαρισμός ιστορικού</translation>
+        <translation>Μηδενισμός</translation>
     </message>
     <message>
         <source>Click to exit</source>
