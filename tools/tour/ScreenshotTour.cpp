@@ -136,6 +136,8 @@ void tourCollisions(frmIntroduction* book)
     goTo(book, 3, 1);
     run(book, 60000);
     shoot(book->parentWidget(), "collision_forms");
+    shootModal(
+        "collision_forms_options", "cmdCommand(1)", [book] { command(book, frmIntroduction::OptionsButton)->click(); });
 
     goTo(book, 3, 2);
     run(book, 60000);
