@@ -1,4 +1,5 @@
 #include "ModalAnswerer.h"
+#include "TextChecks.h"
 #include "TestWindow.h"
 #include "WindowChecks.h"
 
@@ -18,27 +19,9 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTranslator>
 #include <QtTest>
 
 namespace {
-
-// A catalogue that translates every text it is asked for by bracketing it, so
-// that a text shown unbracketed never went through the translation.
-class BracketingTranslator : public QTranslator
-{
-public:
-    QString translate(const char*, const char* sourceText, const char* = nullptr, int = -1) const override
-    {
-        return QStringLiteral("[") + QString::fromUtf8(sourceText) + QStringLiteral("]");
-    }
-    bool isEmpty() const override { return false; }
-};
-
-bool translated(const QString& text)
-{
-    return text.isEmpty() || (text.startsWith('[') && text.endsWith(']'));
-}
 
 QString lastStatus;
 
@@ -71,7 +54,7 @@ QStringList untranslatedTexts(QWidget& window)
         texts << pane->toPlainText();
     QStringList untranslated;
     for (const QString& text : texts)
-        if (!translated(text))
+        if (!isBracketed(text))
             untranslated << text;
     return untranslated;
 }
