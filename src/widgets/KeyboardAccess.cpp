@@ -1,5 +1,7 @@
 #include "KeyboardAccess.h"
 
+#include "FocusMark.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -47,6 +49,9 @@ void focusableBar(QScrollBar* bar, const QString& name)
     // Left lowers the value and Right raises it, as the thumb moves.
     bar->setInvertedControls(false);
     bar->setAccessibleName(name);
+    // The style draws no focus mark on a scroll bar: a frame round the bar shows
+    // which one the arrow keys move.
+    new FocusMark(bar);
 }
 
 void describePicture(QWidget* picture, const QString& description)

@@ -19,6 +19,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QFocusFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -95,6 +96,17 @@ QMultiMap<QString, QString> focusableNames(QWidget* window)
         if (control->isVisibleTo(window) && (control->focusPolicy() & Qt::TabFocus) && control->window() == window->window())
             names.insert(accessible(control, QAccessible::Name), control->objectName());
     return names;
+}
+
+// The control the one visible focus frame of a window surrounds (none when no frame
+// or several show).
+QWidget* framedControl(QWidget* window)
+{
+    QList<QFocusFrame*> shown;
+    for (auto* frame : window->findChildren<QFocusFrame*>())
+        if (frame->isVisible())
+            shown << frame;
+    return shown.size() == 1 ? shown.first()->widget() : nullptr;
 }
 
 void checkNamesAndPictures(QWidget* window)
@@ -209,6 +221,8 @@ void KeyboardTest::microViewRunsFromTheKeyboard()
     auto* temperature = child<QScrollBar>(view, "HScrTemp");
     const int warmer = temperature->value() + 1;
     QVERIFY(tabTo(temperature));
+    // The style marks no focus on a bar: a frame shows which one the arrows move.
+    QCOMPARE(framedControl(view), temperature);
     QTest::keyClick(temperature, Qt::Key_Right);
     QCOMPARE(temperature->value(), warmer);
     QCOMPARE(child<QLabel>(view, "lblTemp")->text(), QString("T=%1").arg(warmer));
@@ -216,12 +230,14 @@ void KeyboardTest::microViewRunsFromTheKeyboard()
     auto* columns = child<QScrollBar>(view, "HScrNoOfMolecules(0)");
     const int fewer = columns->value() - 1;
     QVERIFY(tabTo(columns));
+    QCOMPARE(framedControl(view), columns);
     QTest::keyClick(columns, Qt::Key_Left);
     QCOMPARE(columns->value(), fewer);
     QCOMPARE(child<QLabel>(view, "lblNoOfMolecules(0)")->text(), QString("Nx=%1").arg(fewer));
 
     auto* simulate = child<QPushButton>(view, "cmdCommand(1)");
     QVERIFY(tabTo(simulate));
+    QCOMPARE(framedControl(view), nullptr);
     QTest::keyClick(simulate, Qt::Key_Space);
     QCOMPARE(simulate->text(), QString("Pause"));
     QTest::keyClick(simulate, Qt::Key_Space);
