@@ -445,6 +445,21 @@
     </message>
 </context>
 <context>
+    <name>MsgBox</name>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ναι</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Όχι</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Εντάξει</translation>
+    </message>
+</context>
+<context>
     <name>ParameterDialog</name>
     <message>
         <source>Ok</source>

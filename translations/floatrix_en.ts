@@ -445,6 +445,21 @@
     </message>
 </context>
 <context>
+    <name>MsgBox</name>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ParameterDialog</name>
     <message>
         <source>Ok</source>

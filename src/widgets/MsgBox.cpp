@@ -1,7 +1,11 @@
 #include "MsgBox.h"
 
+#include <QAbstractButton>
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPointer>
+
+#include <utility>
 
 namespace {
 
@@ -27,6 +31,21 @@ QMessageBox::Icon iconOf(int style)
     }
 }
 
+// The buttons' captions come from the program's catalogue, as every other text
+// does: the toolkit has no Greek one of its own. Untranslated they read as the
+// toolkit's.
+void captionButtons(QMessageBox& box)
+{
+    const std::pair<QMessageBox::StandardButton, const char*> captions[] = {
+        {QMessageBox::Yes, QT_TRANSLATE_NOOP("MsgBox", "&Yes")},
+        {QMessageBox::No, QT_TRANSLATE_NOOP("MsgBox", "&No")},
+        {QMessageBox::Ok, QT_TRANSLATE_NOOP("MsgBox", "OK")},
+    };
+    for (const auto& [which, caption] : captions)
+        if (QAbstractButton* button = box.button(which))
+            button->setText(QCoreApplication::translate("MsgBox", caption));
+}
+
 } // namespace
 
 void SetMsgBoxOwner(QWidget* owner)
@@ -44,6 +63,7 @@ int MsgBox(const QString& prompt, int style, const QString& title)
     QPointer<QMessageBox> box = new QMessageBox(iconOf(style), title, prompt,
         yesNo ? (QMessageBox::Yes | QMessageBox::No) : QMessageBox::Ok, boxOwner().data());
     box->setObjectName("MsgBox");
+    captionButtons(*box);
     const int pressed = box->exec();
     delete box.data();
     if (!yesNo)

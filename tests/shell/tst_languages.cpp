@@ -17,6 +17,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTextDocumentFragment>
@@ -147,9 +148,20 @@ private slots:
             menus << menu->text().remove('&');
         QCOMPARE(menus.first(), says("Contents", "Περιεχόμενα"));
         QVERIFY_NONE_FOREIGN(foreignTexts(menus));
-        ModalAnswerer no(QMessageBox::No);
+        // The question and its buttons: the toolkit has no Greek captions of its own.
+        QString question;
+        QStringList buttons;
+        ModalAnswerer no([&](QWidget* modal) {
+            auto* box = static_cast<QMessageBox*>(modal);
+            question = box->text();
+            for (auto which : {QMessageBox::Yes, QMessageBox::No})
+                buttons << box->button(which)->text().remove('&');
+            box->button(QMessageBox::No)->click();
+        });
         frame.mnuContentsItem_Click(MDIMain::ExitItem);
-        QCOMPARE(no.text(), says("Are you sure you want to exit ?", "Είστε βέβαιοι ότι θέλετε να βγείτε;"));
+        QCOMPARE(question, says("Are you sure you want to exit ?", "Είστε βέβαιοι ότι θέλετε να βγείτε;"));
+        QCOMPARE(buttons.join(" "), says("Yes No", "Ναι Όχι"));
+        QVERIFY(frame.isVisible());
     }
 
     // Simulate and Pause start and stop the gas under their translated captions.
