@@ -18,8 +18,8 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QMoveEvent>
 #include <QShowEvent>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -201,7 +201,18 @@ void MDIMain::showEvent(QShowEvent* event)
     // The frame lies wholly on its screen however far the program is scaled: at
     // once, and again when the desktop has put its title bar and borders round it.
     ScreenFit::fitToScreen(this);
-    QTimer::singleShot(0, this, [this] { ScreenFit::fitToScreen(this); });
+    m_framedFit = false;
+}
+
+void MDIMain::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    // The desktop's frame shows in the frame geometry once the desktop has placed
+    // the window; fitted once then, the frame is the user's to move.
+    if (!m_framedFit && frameGeometry() != geometry()) {
+        m_framedFit = true;
+        ScreenFit::fitToScreen(this);
+    }
 }
 
 void MDIMain::closeEvent(QCloseEvent* event)

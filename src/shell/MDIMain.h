@@ -53,6 +53,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -72,4 +73,6 @@ private:
     std::array<QAction*, 4> mnuHelpItem{};
     QWidget* picStatusLine = nullptr;
     QLabel* lblStatusLine = nullptr;
+    // Whether the frame was fitted to its screen with the desktop's frame round it.
+    bool m_framedFit = false;
 };
