@@ -4,6 +4,7 @@
 #include "canvas/Rgb.h"
 #include "core/Geometry.h"
 #include "core/Numeric.h"
+#include "model/CollisionSetup.h"
 #include "model/CollisionState.h"
 
 #include <algorithm>
@@ -32,19 +33,19 @@ void CollisionScene::InitialiseGround(const Canvas& canvas)
     GroundBottom = canvas.ScaleTop() + canvas.ScaleHeight();
 }
 
-void CollisionScene::ComputeViewport(const Canvas& canvas, const CollisionSetup& setup,
-                                     const CollisionState& state, int16_t page)
+void CollisionScene::ComputeViewport(
+    const Canvas& canvas, const CollisionSetup& setup, const CollisionState& state, int16_t page)
 {
     const auto& R = setup.Radius;
     // The whole paths, from the start to the ends at 2 t_c, fill the picture.
-    const float xmin = SmallerOf(SmallerOf(setup.X[1] - R[1], setup.X[2] - R[2]),
-                                 SmallerOf(state.EndX[1] - R[1], state.EndX[2] - R[2]));
-    const float xmax = LargerOf(LargerOf(setup.X[1] + R[1], setup.X[2] + R[2]),
-                                LargerOf(state.EndX[1] + R[1], state.EndX[2] + R[2]));
-    const float ymin = SmallerOf(SmallerOf(setup.Y[1] - R[1], setup.Y[2] - R[2]),
-                                 SmallerOf(state.EndY[1] - R[1], state.EndY[2] - R[2]));
-    const float ymax = LargerOf(LargerOf(setup.Y[1] + R[1], setup.Y[2] + R[2]),
-                                LargerOf(state.EndY[1] + R[1], state.EndY[2] + R[2]));
+    const float xmin = SmallerOf(
+        SmallerOf(setup.X[1] - R[1], setup.X[2] - R[2]), SmallerOf(state.EndX[1] - R[1], state.EndX[2] - R[2]));
+    const float xmax = LargerOf(
+        LargerOf(setup.X[1] + R[1], setup.X[2] + R[2]), LargerOf(state.EndX[1] + R[1], state.EndX[2] + R[2]));
+    const float ymin = SmallerOf(
+        SmallerOf(setup.Y[1] - R[1], setup.Y[2] - R[2]), SmallerOf(state.EndY[1] - R[1], state.EndY[2] - R[2]));
+    const float ymax = LargerOf(
+        LargerOf(setup.Y[1] + R[1], setup.Y[2] + R[2]), LargerOf(state.EndY[1] + R[1], state.EndY[2] + R[2]));
 
     if (page == AboveView && setup.CollisionDirection == CollisionSetup::Direction::Oblique) {
         SameScaleViewport(canvas, xmin, xmax, ymin, ymax);
@@ -69,8 +70,8 @@ void CollisionScene::SameScaleViewport(const Canvas& canvas, float xmin, float x
     // touch; the paths sit in the middle of the picture.
     const double width = double(xmax) - xmin;
     const double height = double(ymax) - ymin;
-    const double factor = std::min(Numeric::divide(canvas.ScaleWidth(), width),
-                                   Numeric::divide(canvas.ScaleHeight(), height));
+    const double factor
+        = std::min(Numeric::divide(canvas.ScaleWidth(), width), Numeric::divide(canvas.ScaleHeight(), height));
     ScaleXFactor = static_cast<float>(factor);
     ScaleYFactor = static_cast<float>(-factor);
     ScaleXOffset = static_cast<float>(canvas.ScaleLeft() + (canvas.ScaleWidth() - factor * width) / 2 - factor * xmin);
@@ -87,8 +88,8 @@ float CollisionScene::ScreenY(float y) const
     return ScaleYFactor * y + ScaleYOffset;
 }
 
-void CollisionScene::DrawCollisionScene(Canvas& canvas, const CollisionSetup& setup,
-                                        CollisionState& state, int16_t page)
+void CollisionScene::DrawCollisionScene(
+    Canvas& canvas, const CollisionSetup& setup, CollisionState& state, int16_t page)
 {
     canvas.Cls();
     if (page == SideView) {
@@ -98,8 +99,25 @@ void CollisionScene::DrawCollisionScene(Canvas& canvas, const CollisionSetup& se
     DrawBodies(canvas, setup, state, page);
 }
 
-void CollisionScene::DrawBodies(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
-                                int16_t page)
+void CollisionScene::MoveBodies(Canvas& canvas, const CollisionSetup& setup, CollisionState& state, int16_t page)
+{
+    DrawBodies(canvas, setup, state, page);
+    state.SimulationTime += state.TimeStep;
+    for (int16_t body = 1; body <= 2; ++body) {
+        const float x
+            = state.BodyState(CollisionState::ComponentX, CollisionState::Position, body, state.SimulationTime);
+        BodyScreenX[body] = ScreenX(x);
+        // The side view keeps the bodies resting on the ground.
+        if (page == CollisionSetup::AboveView) {
+            const float y
+                = state.BodyState(CollisionState::ComponentY, CollisionState::Position, body, state.SimulationTime);
+            BodyScreenY[body] = ScreenY(y);
+        }
+    }
+    DrawBodies(canvas, setup, state, page);
+}
+
+void CollisionScene::DrawBodies(Canvas& canvas, const CollisionSetup& setup, CollisionState& state, int16_t page)
 {
     for (int16_t i = 1; i <= 2; ++i) {
         canvas.setFillColor(colourOf(setup.BodyColor[i]));
@@ -132,15 +150,13 @@ float CollisionScene::ForceScale(const CollisionState& state)
     return std::max({std::fabs(state.MaxForce), std::fabs(state.ContactForce(1)), std::fabs(state.ContactForce(2))});
 }
 
-void CollisionScene::DrawVectors(Canvas& canvas, const CollisionSetup& setup, CollisionState& state,
-                                 int16_t page)
+void CollisionScene::DrawVectors(Canvas& canvas, const CollisionSetup& setup, CollisionState& state, int16_t page)
 {
     const float t = state.SimulationTime;
     const auto pair = [&](int16_t quantity, float scale, float colour, float xDirection) {
         DrawVectorPair(canvas, page, xDirection * state.BodyState(ComponentX, quantity, 1, t),
-                       xDirection * state.BodyState(ComponentX, quantity, 2, t),
-                       state.BodyState(ComponentY, quantity, 1, t), state.BodyState(ComponentY, quantity, 2, t),
-                       scale, colour);
+            xDirection * state.BodyState(ComponentX, quantity, 2, t), state.BodyState(ComponentY, quantity, 1, t),
+            state.BodyState(ComponentY, quantity, 2, t), scale, colour);
     };
     if (setup.ShowVelocities == 1)
         pair(CollisionState::Velocity, VelocityScale(setup, state, page), setup.VelocityColor, 1);
@@ -166,28 +182,28 @@ void CollisionScene::DrawMomenta(Canvas& canvas, const CollisionSetup& setup, Co
         const float m = setup.Mass[body];
         const float px = m * state.BodyState(CollisionState::ComponentX, CollisionState::Velocity, body, t);
         const float py = page == AboveView
-                             ? m * state.BodyState(CollisionState::ComponentY, CollisionState::Velocity, body, t)
-                             : 0.0f;
+            ? m * state.BodyState(CollisionState::ComponentY, CollisionState::Velocity, body, t)
+            : 0.0f;
         DrawArrow(canvas, 1, BodyScreenX[body], BodyScreenY[body] + MomentumOffset, BodyScreenRadius[body],
-                  state.MaxMomentum, px, setup.MomentumColor);
+            state.MaxMomentum, px, setup.MomentumColor);
         DrawArrow(canvas, 2, BodyScreenX[body] + MomentumOffset, BodyScreenY[body], BodyScreenRadius[body],
-                  state.MaxMomentum, py, setup.MomentumColor);
+            state.MaxMomentum, py, setup.MomentumColor);
     }
 }
 
-void CollisionScene::DrawVectorPair(Canvas& canvas, int16_t page, float vx1, float vx2, float vy1,
-                                    float vy2, float scale, float colour)
+void CollisionScene::DrawVectorPair(
+    Canvas& canvas, int16_t page, float vx1, float vx2, float vy1, float vy2, float scale, float colour)
 {
     // The side view shows only the motion along x.
     const float value[2][2] = {{vx1, vx2}, {page == AboveView ? vy1 : 0.0f, page == AboveView ? vy2 : 0.0f}};
     for (int16_t component = ComponentX; component <= ComponentY; ++component)
         for (int16_t body = 1; body <= 2; ++body)
             DrawArrow(canvas, component, BodyScreenX[body], BodyScreenY[body], BodyScreenRadius[body], scale,
-                      value[component - 1][body - 1], colour);
+                value[component - 1][body - 1], colour);
 }
 
-void CollisionScene::DrawArrow(Canvas& canvas, int16_t component, float cx, float cy, float, float scale,
-                               float value, float colour)
+void CollisionScene::DrawArrow(
+    Canvas& canvas, int16_t component, float cx, float cy, float, float scale, float value, float colour)
 {
     // Without a scale there is no length to give the arrow: it is left out. So is a
     // value that is only the rounding left by turning a velocity or force along a

@@ -5,8 +5,7 @@
 
 #include <QCoreApplication>
 
-ExperimentView::ExperimentView(Canvas& canvas, CollisionSetup& setup)
-    : m_canvas(canvas), m_setup(setup), m_state(setup)
+ExperimentView::ExperimentView(Canvas& canvas, CollisionSetup& setup) : m_canvas(canvas), m_setup(setup), m_state(setup)
 {
 }
 
@@ -78,20 +77,7 @@ void ExperimentView::StartCollisionRun()
 
 bool ExperimentView::Tick()
 {
-    m_scene.DrawBodies(m_canvas, m_setup, m_state, m_page);
-    m_state.SimulationTime += m_state.TimeStep;
-    for (int16_t body = 1; body <= 2; ++body) {
-        const float x = m_state.BodyState(CollisionState::ComponentX, CollisionState::Position, body,
-            m_state.SimulationTime);
-        m_scene.BodyScreenX[body] = m_scene.ScreenX(x);
-        // The side view keeps the bodies resting on the ground.
-        if (m_page == CollisionSetup::AboveView) {
-            const float y = m_state.BodyState(CollisionState::ComponentY, CollisionState::Position, body,
-                m_state.SimulationTime);
-            m_scene.BodyScreenY[body] = m_scene.ScreenY(y);
-        }
-    }
-    m_scene.DrawBodies(m_canvas, m_setup, m_state, m_page);
+    m_scene.MoveBodies(m_canvas, m_setup, m_state, m_page);
     m_graphs.DrawGraphStep(m_canvas, m_setup, m_state);
     m_record.Add(m_state);
     if (RunEnd() <= m_state.SimulationTime) {

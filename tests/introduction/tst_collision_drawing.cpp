@@ -71,14 +71,7 @@ struct CollisionRig
         int ticks = 0;
         do {
             ++ticks;
-            scene.DrawBodies(canvas, setup, state, page);
-            state.SimulationTime += state.TimeStep;
-            for (int16_t i = 1; i <= 2; ++i) {
-                scene.BodyScreenX[i] = scene.ScreenX(state.BodyState(1, 1, i, state.SimulationTime));
-                if (page == AboveView)
-                    scene.BodyScreenY[i] = scene.ScreenY(state.BodyState(2, 1, i, state.SimulationTime));
-            }
-            scene.DrawBodies(canvas, setup, state, page);
+            scene.MoveBodies(canvas, setup, state, page);
             graphs.DrawGraphStep(canvas, setup, state);
         } while (ticks < 200 && state.SimulationTime < 2 * state.ContactStart);
         return ticks;
@@ -109,8 +102,8 @@ private slots:
 
 void tst_collision_drawing::runErasesEverythingItMoves()
 {
-    for (int16_t model : {CollisionSetup::LinearModel, CollisionSetup::ContinuousVelocity,
-                          CollisionSetup::ContinuousForce}) {
+    for (int16_t model :
+        {CollisionSetup::LinearModel, CollisionSetup::ContinuousVelocity, CollisionSetup::ContinuousForce}) {
         for (int16_t page : {SideView, AboveView}) {
             CollisionRig rig(model);
             rig.setup.Y = {0, 30};
@@ -236,8 +229,8 @@ void tst_collision_drawing::arrowsPointTheWayTheBodiesMoveAndArePushed_data()
     const QList<float> allLeft = {0, 100, 0, 0, -20, -100, 0, 0};
     const QList<float> allLeftAndDown = {0, 100, 0, 20, -20, -100, -10, -30};
     const QList<float> secondOnTheLeft = {100, 0, 0, 0, -50, 100, 0, 0};
-    for (int16_t model : {CollisionSetup::LinearModel, CollisionSetup::ContinuousVelocity,
-                          CollisionSetup::ContinuousForce}) {
+    for (int16_t model :
+        {CollisionSetup::LinearModel, CollisionSetup::ContinuousVelocity, CollisionSetup::ContinuousForce}) {
         const QByteArray m = "model " + QByteArray::number(model);
         QTest::newRow(m + ", defaults") << SideView << model << defaults;
         QTest::newRow(m + ", first body at rest") << SideView << model << restingFirst;
@@ -286,7 +279,12 @@ void tst_collision_drawing::arrowsPointTheWayTheBodiesMoveAndArePushed()
                     const float value = state.BodyState(component, quantity, body, t);
                     const float arrow = picture.shaft(scene.BodyScreenX[body], scene.BodyScreenY[body], component);
                     const QString where = QString("t=%1 body %2 component %3 quantity %4 value %5 arrow %6")
-                                              .arg(t).arg(body).arg(component).arg(quantity).arg(value).arg(arrow);
+                                              .arg(t)
+                                              .arg(body)
+                                              .arg(component)
+                                              .arg(quantity)
+                                              .arg(value)
+                                              .arg(arrow);
                     QVERIFY2(std::fabs(arrow) <= CollisionScene::ArrowLength + 1, qPrintable(where));
                     if (quantity == CollisionState::Velocity) {
                         QVERIFY2(arrow * value >= 0, qPrintable(where));
@@ -357,8 +355,8 @@ void tst_collision_drawing::contactZoom()
     g.SelectedGraph = g.PanelAt(g.PanelTop[2] + 100);
     QCOMPARE(g.GraphQuantity[g.SelectedGraph], CollisionState::Force);
     g.GraphZoomed = 1;
-    g.ZoomGraph(rig.canvas, rig.setup, rig.state, s.ContactStart - 12 * s.TimeStep / 2,
-                s.ContactStart + 36 * s.TimeStep / 2);
+    g.ZoomGraph(
+        rig.canvas, rig.setup, rig.state, s.ContactStart - 12 * s.TimeStep / 2, s.ContactStart + 36 * s.TimeStep / 2);
     QNEAR(g.GraphTimeMin[4], 1.6 - 6 * 0.032, 1e-5);
     QNEAR(g.GraphTimeMax[4], 1.6 + 18 * 0.032, 1e-5);
     QNEAR(g.PanelBottom[4], 3 * 4935 / 4.0, 1e-2);

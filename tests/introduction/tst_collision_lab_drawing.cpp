@@ -1,5 +1,5 @@
-#include "NearCheck.h"
 #include "LineRecorder.h"
+#include "NearCheck.h"
 #include "WindowChecks.h"
 
 #include "canvas/ImageCanvas.h"
@@ -96,14 +96,7 @@ private slots:
                 }();
                 QVERIFY(canvas.image() != empty);
                 for (int tick = 0; tick < 100; ++tick) {
-                    scene.DrawBodies(canvas, setup, state, page);
-                    state.SimulationTime += state.TimeStep;
-                    for (int16_t i = 1; i <= 2; ++i) {
-                        scene.BodyScreenX[i] = scene.ScreenX(state.BodyState(1, 1, i, state.SimulationTime));
-                        if (page == AboveView)
-                            scene.BodyScreenY[i] = scene.ScreenY(state.BodyState(2, 1, i, state.SimulationTime));
-                    }
-                    scene.DrawBodies(canvas, setup, state, page);
+                    scene.MoveBodies(canvas, setup, state, page);
                 }
                 scene.DrawBodies(canvas, setup, state, page);
                 QVERIFY2(canvas.image() == empty, qPrintable(QString("page %1 model %2").arg(page).arg(model)));
@@ -128,8 +121,9 @@ private slots:
         setUp(picture, setup, state, scene, AboveView);
         QCOMPARE(scene.ScaleXFactor, -scene.ScaleYFactor);
         const float t = state.ContactStart;
-        const double gap = std::hypot(double(scene.ScreenX(state.BodyState(1, 1, 2, t)) - scene.ScreenX(state.BodyState(1, 1, 1, t))),
-                                      double(scene.ScreenY(state.BodyState(2, 1, 2, t)) - scene.ScreenY(state.BodyState(2, 1, 1, t))));
+        const double gap = std::hypot(
+            double(scene.ScreenX(state.BodyState(1, 1, 2, t)) - scene.ScreenX(state.BodyState(1, 1, 1, t))),
+            double(scene.ScreenY(state.BodyState(2, 1, 2, t)) - scene.ScreenY(state.BodyState(2, 1, 1, t))));
         QNEAR(gap, scene.BodyScreenRadius[1] + scene.BodyScreenRadius[2], 0.5);
         // Everything stays inside the picture.
         for (int16_t i = 1; i <= 2; ++i) {

@@ -1,3 +1,4 @@
+#include "FrameViews.h"
 #include "ModalAnswerer.h"
 #include "TextChecks.h"
 #include "WindowChecks.h"
@@ -63,27 +64,13 @@ QStringList foreignTexts(const QStringList& texts)
     return foreign;
 }
 
-QString hintOf(QWidget* control)
-{
-    Form<MDIMain>().setStatusLine(QString());
-    QEvent enter(QEvent::Enter);
-    QCoreApplication::sendEvent(control, &enter);
-    return Form<MDIMain>().statusLine();
-}
-
 // Everything a window shows and a screen reader reads out.
 QStringList foreignTextsOf(QWidget& window)
 {
-    QStringList texts = shownTexts(window, hintOf);
+    QStringList texts = shownTexts(window, frameHintOf);
     for (auto* control : window.findChildren<QWidget*>())
         texts << control->accessibleName() << control->accessibleDescription();
     return foreignTexts(texts);
-}
-
-QWidget* openView(MDIMain::ContentsItem item)
-{
-    Form<MDIMain>().findChild<QAction*>(QString("mnuContentsItem(%1)").arg(int(item)))->trigger();
-    return Form<MDIMain>().mdiArea()->activeSubWindow()->widget();
 }
 
 QPushButton* command(QWidget& window, int index)

@@ -1,11 +1,12 @@
+#include "FrameViews.h"
 #include "ModalAnswerer.h"
 #include "TextChecks.h"
 #include "WindowChecks.h"
 
 #include "macroview/frmMacroView.h"
 #include "microview/ForceStatistics.h"
-#include "microview/TickDriver.h"
 #include "microview/frmMicroView.h"
+#include "microview/TickDriver.h"
 #include "shell/Forms.h"
 #include "shell/GlobDef.h"
 #include "shell/MDIMain.h"
@@ -19,26 +20,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
-
-namespace {
-
-// The hint a control writes into the main frame's status line when the mouse
-// comes over it.
-QString hintOf(QWidget* control)
-{
-    Form<MDIMain>().setStatusLine(QString());
-    QEvent enter(QEvent::Enter);
-    QCoreApplication::sendEvent(control, &enter);
-    return Form<MDIMain>().statusLine();
-}
-
-QWidget* openView(MDIMain::ContentsItem item)
-{
-    Form<MDIMain>().findChild<QAction*>(QString("mnuContentsItem(%1)").arg(int(item)))->trigger();
-    return Form<MDIMain>().mdiArea()->activeSubWindow()->widget();
-}
-
-} // namespace
 
 class tst_texts_shell : public QObject
 {
@@ -104,7 +85,7 @@ private slots:
         frmMacroView::setMovieFolder(noFilm.path());
         QWidget* view = openView(MDIMain::ContentsItem(item));
         frmMacroView::setMovieFolder(QString());
-        QCOMPARE(unbracketedTexts(*view, hintOf), QStringList());
+        QCOMPARE(unbracketedTexts(*view, frameHintOf), QStringList());
         if (auto* movie = qobject_cast<frmMacroView*>(view))
             QVERIFY2(movie->movieMessage().startsWith("[The film cannot be shown."), qPrintable(movie->movieMessage()));
     }
@@ -124,7 +105,7 @@ private slots:
         run->click();
         QVERIFY(!view->simulationTimer().Enabled());
         QCOMPARE(run->text(), QString("[Simulate]"));
-        QCOMPARE(unbracketedTexts(*view, hintOf), QStringList());
+        QCOMPARE(unbracketedTexts(*view, frameHintOf), QStringList());
         QVERIFY2(view->findChild<QLabel*>("lblMeanFy")->text().startsWith("[<Ftop> = "),
             qPrintable(view->findChild<QLabel*>("lblMeanFy")->text()));
         run->click();
@@ -140,7 +121,7 @@ private slots:
         QStringList unbracketed = {"not shown"};
         QString memory;
         ModalAnswerer answerer([&](QWidget* modal) {
-            unbracketed = unbracketedTexts(*modal, hintOf);
+            unbracketed = unbracketedTexts(*modal, frameHintOf);
             memory = modal->findChild<QLabel*>("lblInfo")->text();
             modal->findChild<QPushButton*>("cmdClose")->click();
         });
