@@ -1,3 +1,4 @@
+#include "CollisionPlacing.h"
 #include "NearCheck.h"
 #include "core/ScopedRandomSequence.h"
 #include "core/SharedRandom.h"
@@ -11,20 +12,6 @@ namespace {
 
 constexpr int16_t AboveView = 1;
 constexpr int16_t SideView = 2;
-
-// Both bodies at once: x, y, ux, uy of body 1, then of body 2.
-void place(CollisionSetup& setup, std::array<float, 4> a, std::array<float, 4> b)
-{
-    setup.X = {a[0], b[0]};
-    setup.Y = {a[1], b[1]};
-    setup.Ux = {a[2], b[2]};
-    setup.Uy = {a[3], b[3]};
-}
-
-float uniform(float low, float high)
-{
-    return low + (high - low) * SharedRandom::next();
-}
 
 double kinetic(const CollisionSetup& s, const CollisionArray<float, 2>& vx, const CollisionArray<float, 2>& vy)
 {

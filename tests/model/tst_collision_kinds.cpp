@@ -1,3 +1,4 @@
+#include "CollisionPlacing.h"
 #include "NearCheck.h"
 #include "core/ScopedRandomSequence.h"
 #include "core/SharedRandom.h"
@@ -17,19 +18,6 @@ constexpr int16_t AboveView = 1;
 constexpr int16_t SideView = 2;
 using Direction = CollisionSetup::Direction;
 using Elasticity = CollisionSetup::Elasticity;
-
-void place(CollisionSetup& setup, std::array<float, 4> a, std::array<float, 4> b)
-{
-    setup.X = {a[0], b[0]};
-    setup.Y = {a[1], b[1]};
-    setup.Ux = {a[2], b[2]};
-    setup.Uy = {a[3], b[3]};
-}
-
-float uniform(float low, float high)
-{
-    return low + (high - low) * SharedRandom::next();
-}
 
 // Two bodies aimed at each other: body 2 starts some way off along a random
 // direction and moves back towards body 1 with a random miss smaller than the sum
