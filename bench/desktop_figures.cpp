@@ -9,7 +9,14 @@
 //       the same, then the resident memory with the main frame, with the movie
 //       view playing, after closing it, after 60 openings and closings, and with
 //       every view open.
+//
+// The film plays in a player program of its own. What the movie view adds is the
+// program's own growth plus the player's unique set: the pages only the player
+// holds, which go back to the system when it ends. The libraries it shares with the
+// program are counted once, in the program. The player's whole resident size, the
+// shared pages counted again, is printed beside it.
 
+#include "macroview/MoviePlayer.h"
 #include "macroview/frmMacroView.h"
 #include "shell/Forms.h"
 #include "shell/GlobDef.h"
@@ -18,8 +25,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QMediaPlayer>
-#include <QVideoSink>
+#include <QProcess>
 #include <QWindow>
 
 #include <algorithm>
@@ -28,15 +34,47 @@
 
 namespace {
 
+// The sum of the fields of a /proc file whose names are listed, in MB; fields are
+// "Name:   1234 kB" lines. 0 when the file cannot be read (a process that ended).
+double fieldsMb(const QString& file, const QList<QByteArray>& names)
+{
+    QFile status(file);
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    double kb = 0;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        const qsizetype colon = line.indexOf(':');
+        if (colon > 0 && names.contains(line.left(colon)))
+            kb += line.mid(colon + 1).trimmed().split(' ').first().toDouble();
+    }
+    return kb / 1024.0;
+}
+
 double residentMb()
 {
-    QFile status("/proc/self/status");
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("VmRSS:"))
-            return line.mid(6).trimmed().split(' ').first().toDouble() / 1024.0;
-    return -1;
+    return fieldsMb("/proc/self/status", {"VmRSS"});
+}
+
+// The film player program of the open movie view, 0 when none runs.
+qint64 filmPlayerProcess()
+{
+    if (!IsLoaded<frmMacroView>())
+        return 0;
+    const QProcess* program = Form<frmMacroView>().player()->playerProgram();
+    return program ? program->processId() : 0;
+}
+
+double filmPlayerMb(const QList<QByteArray>& names)
+{
+    const qint64 process = filmPlayerProcess();
+    return process ? fieldsMb(QString("/proc/%1/smaps_rollup").arg(process), names) : 0;
+}
+
+// The memory in use because of the program: its own resident pages and the
+// pages only its film player holds.
+double inUseMb()
+{
+    return residentMb() + filmPlayerMb({"Private_Clean", "Private_Dirty"});
 }
 
 // Whether an OpenGL driver is mapped into the process: the platform links the
@@ -68,15 +106,15 @@ void settle(int ms)
     }
 }
 
-// The largest resident size seen while the event loop runs for a while.
+// The most memory in use seen while the event loop runs for a while.
 double peakWhile(int ms)
 {
-    double peak = residentMb();
+    double peak = inUseMb();
     QElapsedTimer clock;
     clock.start();
     while (clock.elapsed() < ms) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        peak = std::max(peak, residentMb());
+        peak = std::max(peak, inUseMb());
     }
     return peak;
 }
@@ -126,18 +164,22 @@ void measureMemory()
 
     openMovieAndPlay();
     int frames = 0;
-    QObject::connect(Form<frmMacroView>().player()->videoSink(), &QVideoSink::videoFrameChanged,
-        &Form<frmMacroView>(), [&frames] { ++frames; });
+    QObject::connect(Form<frmMacroView>().player(), &MoviePlayer::frameChanged, &Form<frmMacroView>(),
+        [&frames] { ++frames; });
     const double playing = peakWhile(4000);
     report("movie_frames_per_s", frames / 4.0);
-    report("rss_movie_playing_mb", playing);
+    report("in_use_movie_playing_mb", playing);
     report("movie_added_mb", playing - mainFrame);
+    report("rss_program_movie_playing_mb", residentMb());
+    report("rss_film_player_mb", filmPlayerMb({"Rss"}));
+    report("pss_film_player_mb", filmPlayerMb({"Pss"}));
+    report("unique_film_player_mb", filmPlayerMb({"Private_Clean", "Private_Dirty"}));
     std::printf("gl_driver_movie_playing=%s\n", openGlDriverLoaded() ? "yes" : "no");
 
     closeMovie();
     settle(1500);
-    const double closed = residentMb();
-    report("rss_movie_closed_mb", closed);
+    const double closed = inUseMb();
+    report("in_use_movie_closed_mb", closed);
     report("movie_returned_pct", 100.0 * (playing - closed) / (playing - mainFrame));
 
     for (int i = 0; i < 60; ++i) {
@@ -147,14 +189,14 @@ void measureMemory()
         settle(50);
     }
     settle(1500);
-    const double cycled = residentMb();
-    report("rss_after_60_cycles_mb", cycled);
+    const double cycled = inUseMb();
+    report("in_use_after_60_cycles_mb", cycled);
     report("cycles_drift_mb", cycled - closed);
 
     for (int item : {0, 2})
         Form<MDIMain>().mnuContentsItem_Click(item);
     openMovieAndPlay();
-    report("rss_every_view_open_mb", peakWhile(3000));
+    report("in_use_every_view_open_mb", peakWhile(3000));
 }
 
 } // namespace

@@ -445,6 +445,19 @@
     </message>
 </context>
 <context>
+    <name>MoviePlayer</name>
+    <message>
+        <source>The film player is missing:
+%1</source>
+        <translation>Λείπει το πρόγραμμα αναπαραγωγής της ταινίας:
+%1</translation>
+    </message>
+    <message>
+        <source>The film player stopped working.</source>
+        <translation>Το πρόγραμμα αναπαραγωγής της ταινίας σταμάτησε να λειτουργεί.</translation>
+    </message>
+</context>
+<context>
     <name>MsgBox</name>
     <message>
         <source>&amp;Yes</source>

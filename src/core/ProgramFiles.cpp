@@ -11,6 +11,8 @@ namespace {
 
 // The installed files, relative to the folder of the installed executable.
 constexpr auto SharedFolder = "../share/floatrix";
+// The installed helper programs, relative to the same folder.
+constexpr auto HelperFolder = "../libexec/floatrix";
 
 // The finest drawing kept beside a picture.
 constexpr int FinestFactor = 3;
@@ -33,6 +35,19 @@ QString ProgramFiles::folderFrom(const QString& programFolder, const QString& na
         return programFolder;
     const QString shared = QDir::cleanPath(QDir(programFolder).filePath(QString::fromLatin1(SharedFolder)));
     return QFileInfo(shared).isDir() ? shared : programFolder;
+}
+
+QString ProgramFiles::helperProgram(const QString& name)
+{
+    return helperProgramFrom(QCoreApplication::applicationDirPath(), name);
+}
+
+QString ProgramFiles::helperProgramFrom(const QString& programFolder, const QString& name)
+{
+    const QString beside = QDir(programFolder).filePath(name);
+    const QString installed =
+        QDir::cleanPath(QDir(programFolder).filePath(QString::fromLatin1(HelperFolder) + '/' + name));
+    return !QFileInfo::exists(beside) && QFileInfo::exists(installed) ? installed : beside;
 }
 
 ProgramFiles::SharperPicture ProgramFiles::sharperPicture(const QString& path, double pixelRatio)

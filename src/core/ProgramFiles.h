@@ -3,8 +3,9 @@
 #include <QString>
 
 // Where the program finds its own files (the liquid pages' pictures, the film, the
-// icon and banner): beside its executable when it runs from the build tree, in
-// ../share/floatrix relative to it when it is installed.
+// icon and banner, the film player): beside its executable when it runs from the
+// build tree, in ../share/floatrix (../libexec/floatrix for programs) relative to it
+// when it is installed.
 class ProgramFiles
 {
 public:
@@ -18,6 +19,15 @@ public:
 
     // The same search for an executable kept in programFolder.
     static QString folderFrom(const QString& programFolder, const QString& name);
+
+    // The path of the helper program `name`: beside the executable in the build
+    // tree, in ../libexec/floatrix relative to it when installed; beside the
+    // executable when it is in neither (so that a missing helper is reported where
+    // it was sought first).
+    static QString helperProgram(const QString& name);
+
+    // The same search for an executable kept in programFolder.
+    static QString helperProgramFrom(const QString& programFolder, const QString& name);
 
     // A picture drawn finer for screens with more device pixels to a pixel.
     struct SharperPicture

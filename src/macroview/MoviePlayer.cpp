@@ -1,62 +1,138 @@
 #include "MoviePlayer.h"
 
-#include "MovieFrameImage.h"
+#include "core/ProgramFiles.h"
 
-#include <QMediaPlayer>
-#include <QUrl>
-#include <QVideoSink>
+#include <QFileInfo>
+#include <QProcess>
 
-MoviePlayer::MoviePlayer(QObject* parent)
-    : QObject(parent), m_player(new QMediaPlayer(this)), m_sink(new QVideoSink(this))
-{
-    // A sink of our own rather than a video widget: the widget brings up an OpenGL
-    // stack several times the size of the rest of the program for a small film.
-    m_player->setVideoSink(m_sink);
-    // Frames come from the streaming thread; they are converted on this one.
-    connect(m_sink, &QVideoSink::videoFrameChanged, this, &MoviePlayer::takeFrame, Qt::QueuedConnection);
-    connect(m_player, &QMediaPlayer::errorOccurred, this,
-        [this](QMediaPlayer::Error, const QString& error) { emit failed(error); });
-}
+namespace {
+
+constexpr auto PlayerProgramName = "floatrix-film";
+
+} // namespace
+
+MoviePlayer::MoviePlayer(QObject* parent) : QObject(parent) {}
 
 void MoviePlayer::load(const QString& path)
 {
-    const QUrl film = QUrl::fromLocalFile(path);
-    if (m_player->source() == film)
+    if (m_program && m_source == path)
         return;
+    stop();
+    m_source = path;
+    m_duration = 0;
+    m_position = 0;
     m_frame = QImage();
-    m_player->setSource(film);
+    m_error.clear();
+    startPlayerProgram();
+}
+
+void MoviePlayer::startPlayerProgram()
+{
+    const QString program = ProgramFiles::helperProgram(QString::fromLatin1(PlayerProgramName));
+    if (!QFileInfo(program).isExecutable()) {
+        fail(tr("The film player is missing:\n%1").arg(program));
+        return;
+    }
+    m_reader = FilmMessageReader();
+    m_program = new QProcess(this);
+    // The player's own warnings belong on the program's error output.
+    m_program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    connect(m_program, &QProcess::readyReadStandardOutput, this, &MoviePlayer::readPlayerProgram);
+    connect(m_program, &QProcess::finished, this, &MoviePlayer::playerProgramEnded);
+    connect(m_program, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            playerProgramEnded();
+    });
+    m_program->start(program, {m_source});
 }
 
 void MoviePlayer::play()
 {
-    m_player->play();
+    send("play\n");
 }
 
-void MoviePlayer::rewind()
+void MoviePlayer::pause()
 {
-    const bool playing = m_player->playbackState() == QMediaPlayer::PlayingState;
-    if (!playing && m_player->position() == 0)
+    send("pause\n");
+}
+
+void MoviePlayer::send(const QByteArray& command)
+{
+    if (m_program)
+        m_program->write(command);
+}
+
+void MoviePlayer::stop()
+{
+    m_playing = false;
+    if (!m_program)
         return;
-    // A seek in a paused film waits on this thread for the sink, which waits on
-    // this thread too, until a 300 ms timeout frees them (stop() is such a seek);
-    // a seek in a running film returns at once. So the film runs, is wound back,
-    // and only then pauses.
-    if (!playing)
-        m_player->play();
-    m_player->setPosition(0);
-    m_player->pause();
-}
-
-QString MoviePlayer::errorString() const
-{
-    return m_player->error() == QMediaPlayer::NoError ? QString() : m_player->errorString();
-}
-
-void MoviePlayer::takeFrame(const QVideoFrame& frame)
-{
-    const QImage image = MovieFrameImage::fromFrame(frame);
-    if (image.isNull())
+    QProcess* ending = m_program;
+    m_program = nullptr;
+    disconnect(ending, nullptr, this, nullptr);
+    // Nothing in the player needs saving; it is ended outright and reaped later,
+    // so that closing the view never waits on it.
+    if (ending->state() == QProcess::NotRunning) {
+        ending->deleteLater();
         return;
-    m_frame = image;
-    emit frameChanged(m_frame);
+    }
+    connect(ending, &QProcess::stateChanged, ending, [ending](QProcess::ProcessState state) {
+        if (state == QProcess::NotRunning)
+            ending->deleteLater();
+    });
+    ending->kill();
+}
+
+void MoviePlayer::readPlayerProgram()
+{
+    m_reader.feed(m_program->readAllStandardOutput());
+    // A message may end the player (an error does), and with it the reading.
+    const QProcess* reading = m_program;
+    while (m_program == reading) {
+        const std::optional<FilmMessage> message = m_reader.next();
+        if (!message)
+            break;
+        take(*message);
+    }
+    if (m_program == reading && m_reader.damaged())
+        fail(tr("The film player stopped working."));
+}
+
+void MoviePlayer::take(const FilmMessage& message)
+{
+    switch (message.kind) {
+    case FilmMessage::Duration:
+        m_duration = message.milliseconds;
+        break;
+    case FilmMessage::Position:
+        m_position = message.milliseconds;
+        break;
+    case FilmMessage::Playing:
+    case FilmMessage::Paused:
+    case FilmMessage::Stopped:
+        m_playing = message.kind == FilmMessage::Playing;
+        break;
+    case FilmMessage::Error:
+        fail(message.text);
+        break;
+    case FilmMessage::Frame:
+        m_frame = message.frame;
+        emit frameChanged(m_frame);
+        break;
+    }
+}
+
+void MoviePlayer::playerProgramEnded()
+{
+    // The player ends only when told to; ending of its own accord is a failure.
+    fail(tr("The film player stopped working."));
+}
+
+void MoviePlayer::fail(const QString& error)
+{
+    if (!m_error.isEmpty())
+        return;
+    m_error = error;
+    stop();
+    emit failed(error);
 }

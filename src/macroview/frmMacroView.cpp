@@ -16,7 +16,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMdiSubWindow>
-#include <QMediaPlayer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -60,7 +59,7 @@ void frmMacroView::handBackFilm()
     m_filmHandedBack = true;
     disconnect(&m_player, nullptr, this, nullptr);
     disconnect(&m_player, nullptr, oleMovie, nullptr);
-    m_player.rewind();
+    m_player.stop();
 }
 
 QSize frmMacroView::sizeHint() const
@@ -154,9 +153,9 @@ void frmMacroView::setMovieFolder(const QString& folder)
     movieFolderOverride() = folder;
 }
 
-QMediaPlayer* frmMacroView::player() const
+MoviePlayer* frmMacroView::player() const
 {
-    return m_player.mediaPlayer();
+    return &m_player;
 }
 
 QImage frmMacroView::shownFrame() const

@@ -9,7 +9,6 @@ class MovieFrameWidget;
 class MoviePlayer;
 class QFrame;
 class QLabel;
-class QMediaPlayer;
 class QPushButton;
 
 // The "Macroscopic View" child window of the main frame: the film of a balloon
@@ -23,7 +22,7 @@ public:
     // Loads the window and shows the film through the program's one player, which
     // outlives the window.
     explicit frmMacroView(MoviePlayer& player);
-    // Winds the film back for the next opening unless closing did.
+    // Ends the film's playing unless closing did.
     ~frmMacroView() override;
 
     // The buttons, by their index.
@@ -40,7 +39,7 @@ public:
     static void setMovieFolder(const QString& folder);
 
     // The player of the embedded film, the same at every opening.
-    QMediaPlayer* player() const;
+    MoviePlayer* player() const;
 
     // The frame shown in the window; null while none came.
     QImage shownFrame() const;

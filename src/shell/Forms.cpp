@@ -45,8 +45,8 @@ frmIntroduction* NewForm(frmIntroduction*)
 frmMacroView* NewForm(frmMacroView*)
 {
     // One player of the film for the program's life, lent to each opening of the
-    // view: a player made soon after the last one was torn down can freeze the
-    // media back end. It goes with the application object.
+    // view, so that the player programs of closed views are reaped without the
+    // view waiting for them. It goes with the application object.
     static QPointer<MoviePlayer> player;
     if (!player)
         player = new MoviePlayer(QCoreApplication::instance());

@@ -2,6 +2,23 @@
 
 #include <QtTest>
 
+namespace {
+
+// An empty file at each path under root, and an empty bin/ for the executable.
+bool createFiles(const QDir& root, const QStringList& files)
+{
+    if (!root.mkpath("bin"))
+        return false;
+    for (const QString& file : files) {
+        QFile touched(root.filePath(file));
+        if (!root.mkpath(QFileInfo(file).path()) || !touched.open(QIODevice::WriteOnly))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
 // The program finds its files beside its executable in the build tree and in
 // ../share/floatrix when installed.
 class ProgramFilesTest : public QObject
@@ -11,6 +28,8 @@ class ProgramFilesTest : public QObject
 private slots:
     void findsFilesBesideOrInstalled_data();
     void findsFilesBesideOrInstalled();
+    void findsTheFilmPlayerBesideOrInstalled_data();
+    void findsTheFilmPlayerBesideOrInstalled();
     void theRunningProgramReadsFromItsOwnFolder();
     void choosesTheFinerDrawingForTheScreen_data();
     void choosesTheFinerDrawingForTheScreen();
@@ -35,13 +54,31 @@ void ProgramFilesTest::findsFilesBesideOrInstalled()
     QTemporaryDir prefix;
     QVERIFY(prefix.isValid());
     const QDir root(prefix.path());
-    QVERIFY(root.mkpath("bin"));
-    for (const QString& file : files) {
-        QVERIFY(root.mkpath(QFileInfo(file).path()));
-        QFile touched(root.filePath(file));
-        QVERIFY(touched.open(QIODevice::WriteOnly));
-    }
+    QVERIFY(createFiles(root, files));
     QCOMPARE(ProgramFiles::folderFrom(root.filePath("bin"), "pot_t1.bmp"), root.filePath(expected));
+}
+
+void ProgramFilesTest::findsTheFilmPlayerBesideOrInstalled_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("build tree") << QStringList{"bin/floatrix-film"} << "bin/floatrix-film";
+    QTest::newRow("installed") << QStringList{"libexec/floatrix/floatrix-film"} << "libexec/floatrix/floatrix-film";
+    QTest::newRow("beside wins") << QStringList{"bin/floatrix-film", "libexec/floatrix/floatrix-film"}
+                                 << "bin/floatrix-film";
+    QTest::newRow("missing") << QStringList{"share/floatrix/floatrixo.avi"} << "bin/floatrix-film";
+}
+
+void ProgramFilesTest::findsTheFilmPlayerBesideOrInstalled()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QString, expected);
+    QTemporaryDir prefix;
+    QVERIFY(prefix.isValid());
+    const QDir root(prefix.path());
+    QVERIFY(createFiles(root, files));
+    QCOMPARE(ProgramFiles::helperProgramFrom(root.filePath("bin"), "floatrix-film"), root.filePath(expected));
 }
 
 void ProgramFilesTest::theRunningProgramReadsFromItsOwnFolder()

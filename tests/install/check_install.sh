@@ -13,7 +13,7 @@ fail() { echo "FAIL: $*" >&2; exit 1; }
 cmake --install "$build" --prefix "$prefix" > /dev/null
 
 id=org.floatrix.Floatrix
-expected=(bin/floatrix
+expected=(bin/floatrix libexec/floatrix/floatrix-film
   share/floatrix/pot_t1.bmp share/floatrix/pot_t2.bmp share/floatrix/floatrixo.avi
   share/floatrix/floatrix.png share/floatrix/floatrix_banner.png
   share/floatrix/pot_t1@2x.png share/floatrix/pot_t2@3x.png share/floatrix/floatrix_banner@2x.png
@@ -26,6 +26,7 @@ for file in "${expected[@]}"; do
   [ -f "$prefix/$file" ] || fail "$file was not installed"
 done
 [ -x "$prefix/bin/floatrix" ] || fail "bin/floatrix is not executable"
+[ -x "$prefix/libexec/floatrix/floatrix-film" ] || fail "libexec/floatrix/floatrix-film is not executable"
 
 if command -v desktop-file-validate > /dev/null; then
   desktop-file-validate "$prefix/share/applications/$id.desktop" || fail "the desktop file is not valid"
@@ -44,6 +45,14 @@ program="$prefix/bin/floatrix"
 help=$("$program" --help)
 grep -qF "read from $prefix/share/floatrix" <<< "$help" ||
   fail "the installed program does not read its files from share/floatrix: $help"
+
+# The installed film player plays the installed film: it reports the film's length
+# and sends frames while its input stays open.
+# (A message may follow a frame's pixels on the same line, so none is anchored.)
+news=$( (echo play; sleep 4) | timeout 10 "$prefix/libexec/floatrix/floatrix-film" \
+  "$prefix/share/floatrix/floatrixo.avi" 2> /dev/null | head -c 3000000 |
+  grep -a -o -E '(duration [1-9][0-9]*|frame 320 224)' | cut -d' ' -f1 | sort -u | tr '\n' ' ' || true)
+[ "$news" = "duration frame " ] || fail "the installed film player did not play the film (it sent: $news)"
 
 # A start in each language: the splash and then the main frame come up, and the
 # program keeps running until it is told to end.

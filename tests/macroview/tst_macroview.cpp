@@ -1,6 +1,7 @@
 #include "WindowChecks.h"
 
 #include "core/Twips.h"
+#include "macroview/MoviePlayer.h"
 #include "macroview/frmMacroView.h"
 #include "shell/Forms.h"
 #include "shell/GlobDef.h"
@@ -8,12 +9,13 @@
 
 #include <QFile>
 #include <QMdiSubWindow>
-#include <QMediaPlayer>
+#include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <atomic>
+#include <csignal>
 #include <chrono>
 #include <cstdio>
 #include <thread>
@@ -32,7 +34,7 @@ QWidget* control(const QString& name)
     return Form<frmMacroView>().findChild<QWidget*>(name);
 }
 
-QMediaPlayer& player()
+MoviePlayer& player()
 {
     return *Form<frmMacroView>().player();
 }
@@ -103,6 +105,7 @@ private slots:
     void playGoesOnFromWhereTheFilmStandsAndExitUnloads();
     void fastOpeningsNeverFreezeTheProgram();
     void missingOrUnreadableFilmLeavesAMessage();
+    void aPlayerThatDiesLeavesAMessageAndTheNextOpeningPlays();
 };
 
 void MacroViewTest::cleanup()
@@ -139,37 +142,42 @@ void MacroViewTest::playGoesOnFromWhereTheFilmStandsAndExitUnloads()
 {
     openView();
     QCOMPARE(Form<frmMacroView>().movieMessage(), QString());
-    QTRY_COMPARE_WITH_TIMEOUT(player().mediaStatus(), QMediaPlayer::LoadedMedia, 5000);
-    QVERIFY(player().duration() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(player().duration() > 0, 5000);
 
     QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
-    QTRY_COMPARE_WITH_TIMEOUT(player().playbackState(), QMediaPlayer::PlayingState, 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(player().isPlaying(), 5000);
     QTRY_VERIFY_WITH_TIMEOUT(player().position() > 0, 5000);
     player().pause();
+    QTRY_VERIFY_WITH_TIMEOUT(!player().isPlaying(), 5000);
     const qint64 stoppedAt = player().position();
 
     // Play again goes on from there rather than from the start, and so does Play
     // pressed while the film is running.
     QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
     QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
-    QTRY_COMPARE_WITH_TIMEOUT(player().playbackState(), QMediaPlayer::PlayingState, 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(player().isPlaying(), 5000);
     QVERIFY(player().position() >= stoppedAt);
-    QCOMPARE(player().error(), QMediaPlayer::NoError);
+    QCOMPARE(player().errorString(), QString());
 
     // The window shows the film's frames, drawn without a video widget.
     QTRY_COMPARE_WITH_TIMEOUT(Form<frmMacroView>().shownFrame().size(), QSize(320, 224), 5000);
 
-    // Exit unloads the view; the next opening finds the film wound back to its
-    // start, ready to play, in the one player the program keeps.
-    QPointer<QMediaPlayer> first = &player();
+    // Exit unloads the view and ends the film's player program, handing back all
+    // it took; the next opening finds the film at its start, ready to play, in
+    // the one player the program keeps.
+    QPointer<MoviePlayer> first = &player();
+    QVERIFY(player().playerProgram());
+    const qint64 playerProcess = player().playerProgram()->processId();
     QTest::mouseClick(control("cmdCommand(0)"), Qt::LeftButton);
     QVERIFY(!IsLoaded<frmMacroView>());
     QVERIFY(Form<MDIMain>().isVisible());
-    QVERIFY(first->playbackState() != QMediaPlayer::PlayingState);
+    QVERIFY(!first->isPlaying());
+    QVERIFY(!first->playerProgram());
+    QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(QString("/proc/%1").arg(playerProcess)), 5000);
 
     openView();
     QCOMPARE(&player(), first.data());
-    QCOMPARE(player().source().toLocalFile(), QCoreApplication::applicationDirPath() + "/floatrixo.avi");
+    QCOMPARE(player().source(), QCoreApplication::applicationDirPath() + "/floatrixo.avi");
     QCOMPARE(player().position(), 0);
     QVERIFY(control("cmdCommand(1)")->isEnabled());
     QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
@@ -185,7 +193,7 @@ void MacroViewTest::fastOpeningsNeverFreezeTheProgram()
     std::atomic<int> opening{0};
     Watchdog watchdog(10, opening);
     openView();
-    QPointer<QMediaPlayer> kept = &player();
+    QPointer<MoviePlayer> kept = &player();
     for (; opening < Openings; ++opening) {
         if (!IsLoaded<frmMacroView>())
             openView();
@@ -200,7 +208,7 @@ void MacroViewTest::fastOpeningsNeverFreezeTheProgram()
     openView();
     QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
     QTRY_VERIFY_WITH_TIMEOUT(player().position() > 0, 5000);
-    QCOMPARE(player().error(), QMediaPlayer::NoError);
+    QCOMPARE(player().errorString(), QString());
 }
 
 void MacroViewTest::missingOrUnreadableFilmLeavesAMessage()
@@ -224,6 +232,23 @@ void MacroViewTest::missingOrUnreadableFilmLeavesAMessage()
     openView();
     QTRY_VERIFY_WITH_TIMEOUT(Form<frmMacroView>().movieMessage().contains("could not be played"), 5000);
     QVERIFY(Form<MDIMain>().isVisible());
+}
+
+void MacroViewTest::aPlayerThatDiesLeavesAMessageAndTheNextOpeningPlays()
+{
+    openView();
+    QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(player().position() > 0, 5000);
+    ::kill(pid_t(player().playerProgram()->processId()), SIGKILL);
+    QTRY_VERIFY_WITH_TIMEOUT(Form<frmMacroView>().movieMessage().contains("The film player stopped working."), 5000);
+    QVERIFY(!control("cmdCommand(1)")->isEnabled());
+    QVERIFY(Form<MDIMain>().isVisible());
+
+    QTest::mouseClick(control("cmdCommand(0)"), Qt::LeftButton);
+    openView();
+    QCOMPARE(Form<frmMacroView>().movieMessage(), QString());
+    QTest::mouseClick(control("cmdCommand(1)"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(player().position() > 0, 5000);
 }
 
 QTEST_MAIN(MacroViewTest)

@@ -1,4 +1,4 @@
-#include "macroview/MovieFrameImage.h"
+#include "filmplayer/MovieFrameImage.h"
 
 #include <QVideoFrame>
 #include <QtTest>
