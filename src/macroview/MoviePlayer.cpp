@@ -21,7 +21,6 @@ void MoviePlayer::load(const QString& path)
     m_source = path;
     m_duration = 0;
     m_position = 0;
-    m_frame = QImage();
     m_error.clear();
     startPlayerProgram();
 }
@@ -65,6 +64,8 @@ void MoviePlayer::send(const QByteArray& command)
 void MoviePlayer::stop()
 {
     m_playing = false;
+    // The next opening starts the film afresh, not on the frame this one left.
+    m_frame = QImage();
     if (!m_program)
         return;
     QProcess* ending = m_program;

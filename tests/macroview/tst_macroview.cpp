@@ -176,6 +176,7 @@ void MacroViewTest::playGoesOnFromWhereTheFilmStandsAndExitUnloads()
     QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(QString("/proc/%1").arg(playerProcess)), 5000);
 
     openView();
+    QVERIFY(Form<frmMacroView>().shownFrame().isNull());
     QCOMPARE(&player(), first.data());
     QCOMPARE(player().source(), QCoreApplication::applicationDirPath() + "/floatrixo.avi");
     QCOMPARE(player().position(), 0);
