@@ -126,10 +126,9 @@ void frmMacroView::Form_Load()
                              .arg(QFileInfo(path).absolutePath()));
         return;
     }
+    // A film the player cannot play is reported through its failed signal, to which
+    // the window is already connected.
     m_player.load(path);
-    // A film found unplayable at an earlier opening stays so.
-    if (!m_player.errorString().isEmpty())
-        showPlayerError(m_player.errorString());
 }
 
 void frmMacroView::showPlayerError(const QString& error)

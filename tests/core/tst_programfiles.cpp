@@ -28,57 +28,48 @@ class ProgramFilesTest : public QObject
 private slots:
     void findsFilesBesideOrInstalled_data();
     void findsFilesBesideOrInstalled();
-    void findsTheFilmPlayerBesideOrInstalled_data();
-    void findsTheFilmPlayerBesideOrInstalled();
     void theRunningProgramReadsFromItsOwnFolder();
     void choosesTheFinerDrawingForTheScreen_data();
     void choosesTheFinerDrawingForTheScreen();
 };
 
+// A picture is sought as a folder, the film player as the path of the program.
 void ProgramFilesTest::findsFilesBesideOrInstalled_data()
 {
+    QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("build tree") << QStringList{"bin/pot_t1.bmp"} << "bin";
-    QTest::newRow("installed") << QStringList{"share/floatrix/pot_t1.bmp"} << "share/floatrix";
-    QTest::newRow("beside wins over installed") << QStringList{"bin/pot_t1.bmp", "share/floatrix/pot_t1.bmp"} << "bin";
-    QTest::newRow("missing, installed folder there") << QStringList{"share/floatrix/other.bmp"} << "share/floatrix";
-    QTest::newRow("missing, nothing installed") << QStringList{} << "bin";
+    QTest::newRow("build tree") << "pot_t1.bmp" << QStringList{"bin/pot_t1.bmp"} << "bin";
+    QTest::newRow("installed") << "pot_t1.bmp" << QStringList{"share/floatrix/pot_t1.bmp"} << "share/floatrix";
+    QTest::newRow("beside wins over installed")
+        << "pot_t1.bmp" << QStringList{"bin/pot_t1.bmp", "share/floatrix/pot_t1.bmp"} << "bin";
+    QTest::newRow("missing, installed folder there")
+        << "pot_t1.bmp" << QStringList{"share/floatrix/other.bmp"} << "share/floatrix";
+    QTest::newRow("missing, nothing installed") << "pot_t1.bmp" << QStringList{} << "bin";
+
+    const QString player = "floatrix-film";
+    QTest::newRow("player in the build tree") << player << QStringList{"bin/floatrix-film"} << "bin/floatrix-film";
+    QTest::newRow("player installed")
+        << player << QStringList{"libexec/floatrix/floatrix-film"} << "libexec/floatrix/floatrix-film";
+    QTest::newRow("player beside wins")
+        << player << QStringList{"bin/floatrix-film", "libexec/floatrix/floatrix-film"} << "bin/floatrix-film";
+    QTest::newRow("player missing") << player << QStringList{"share/floatrix/floatrixo.avi"} << "bin/floatrix-film";
 }
 
 void ProgramFilesTest::findsFilesBesideOrInstalled()
 {
+    QFETCH(QString, name);
     QFETCH(QStringList, files);
     QFETCH(QString, expected);
     QTemporaryDir prefix;
     QVERIFY(prefix.isValid());
     const QDir root(prefix.path());
     QVERIFY(createFiles(root, files));
-    QCOMPARE(ProgramFiles::folderFrom(root.filePath("bin"), "pot_t1.bmp"), root.filePath(expected));
-}
-
-void ProgramFilesTest::findsTheFilmPlayerBesideOrInstalled_data()
-{
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("build tree") << QStringList{"bin/floatrix-film"} << "bin/floatrix-film";
-    QTest::newRow("installed") << QStringList{"libexec/floatrix/floatrix-film"} << "libexec/floatrix/floatrix-film";
-    QTest::newRow("beside wins") << QStringList{"bin/floatrix-film", "libexec/floatrix/floatrix-film"}
-                                 << "bin/floatrix-film";
-    QTest::newRow("missing") << QStringList{"share/floatrix/floatrixo.avi"} << "bin/floatrix-film";
-}
-
-void ProgramFilesTest::findsTheFilmPlayerBesideOrInstalled()
-{
-    QFETCH(QStringList, files);
-    QFETCH(QString, expected);
-    QTemporaryDir prefix;
-    QVERIFY(prefix.isValid());
-    const QDir root(prefix.path());
-    QVERIFY(createFiles(root, files));
-    QCOMPARE(ProgramFiles::helperProgramFrom(root.filePath("bin"), "floatrix-film"), root.filePath(expected));
+    const QString bin = root.filePath("bin");
+    const QString found = name.endsWith(".bmp") ? ProgramFiles::folderFrom(bin, name)
+                                                : ProgramFiles::helperProgramFrom(bin, name);
+    QCOMPARE(found, root.filePath(expected));
 }
 
 void ProgramFilesTest::theRunningProgramReadsFromItsOwnFolder()
